@@ -1,0 +1,15 @@
+# tavrin_add_test(NAME SOURCES file... [GUI] [LIBS lib...])
+# One executable per unit, discovered test by test by CTest. GUI tests get a main()
+# that creates a QApplication on the offscreen platform when there is no display.
+function(tavrin_add_test name)
+  cmake_parse_arguments(ARG "GUI" "" "SOURCES;LIBS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  if(ARG_GUI)
+    target_link_libraries(${name} PRIVATE tavrin_gui_test_main)
+  else()
+    target_link_libraries(${name} PRIVATE tavrin_core_test_main)
+  endif()
+  target_link_libraries(${name} PRIVATE ${ARG_LIBS} tavrin_warnings)
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+    PROPERTIES TIMEOUT 300)
+endfunction()

@@ -1,0 +1,1 @@
+tavrin_add_test(test_file_system_item SOURCES ${CMAKE_CURRENT_LIST_DIR}/FileSystemItemTest.cpp)
