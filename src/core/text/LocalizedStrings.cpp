@@ -1,5 +1,6 @@
 #include "core/text/LocalizedStrings.h"
 
+#include <QDir>
 #include <QFile>
 #include <QHash>
 #include <QJsonDocument>
@@ -16,17 +17,22 @@ using Table = QHash<QString, QString>;
 
 const QString kEnglish = QStringLiteral("en");
 
+// A language's table is the union of its area files (":/strings/en/list.json", ...).
 Table loadTable(const QString& language)
 {
-    QFile file(QStringLiteral(":/strings/%1.json").arg(language));
-    if (!file.open(QIODevice::ReadOnly)) {
-        qWarning("String table %s is missing", qPrintable(language));
-        return {};
-    }
     Table table;
-    const QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
-    for (auto it = object.begin(); it != object.end(); ++it)
-        table.insert(it.key(), it.value().toString());
+    const QDir folder(QStringLiteral(":/strings/") + language);
+    for (const QString& name : folder.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name)) {
+        QFile file(folder.filePath(name));
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        QJsonParseError error;
+        const QJsonObject object = QJsonDocument::fromJson(file.readAll(), &error).object();
+        if (error.error != QJsonParseError::NoError)
+            qWarning("String table %s: %s", qPrintable(file.fileName()), qPrintable(error.errorString()));
+        for (auto it = object.begin(); it != object.end(); ++it)
+            table.insert(it.key(), it.value().toString());
+    }
     return table;
 }
 
