@@ -1,0 +1,231 @@
+#include "core/profiles/Preferences.h"
+
+#include "core/text/LocalizedStrings.h"
+#include "core/text/NameParts.h"
+#include "core/text/StringUtilities.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+#include <QStandardPaths>
+#include <filesystem>
+#include <memory>
+#include <plist/plist.h>
+#include <system_error>
+
+namespace tavrin {
+
+namespace {
+
+constexpr char kSupportFolder[] = "Palisade Soft/Tavrin3";
+constexpr char kPreferencesFile[] = "preferences.plist";
+
+// A preferences file is a few hundred bytes; anything this large is not one.
+constexpr qint64 kLargestPreferencesFile = 1024 * 1024;
+
+struct PlistFree {
+    void operator()(plist_t node) const { plist_free(node); }
+};
+using Plist = std::unique_ptr<void, PlistFree>;
+
+void setError(QString* error, const QString& message)
+{
+    if (error)
+        *error = message;
+}
+
+std::filesystem::path fileSystemPath(const QString& path)
+{
+    return std::filesystem::path(QFile::encodeName(path).toStdString());
+}
+
+QString folderError(const QString& path, const std::error_code& code)
+{
+    return localized("FOLDERCREATEFAILED").arg(path, QString::fromLocal8Bit(code.message().c_str()));
+}
+
+Plist readPlist(const QString& path, QString* error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > kLargestPreferencesFile) {
+        setError(error, localized("PREFERENCESREADFAILED").arg(path));
+        return nullptr;
+    }
+    const QByteArray data = file.readAll();
+    plist_t root = nullptr;
+    plist_from_memory(data.constData(), uint32_t(data.size()), &root);
+    Plist plist(root);
+    if (!plist || plist_get_node_type(root) != PLIST_DICT) {
+        setError(error, localized("PREFERENCESREADFAILED").arg(path));
+        return nullptr;
+    }
+    return plist;
+}
+
+void readString(plist_t dictionary, const char* key, QString& value)
+{
+    const plist_t node = plist_dict_get_item(dictionary, key);
+    if (!node || plist_get_node_type(node) != PLIST_STRING)
+        return;
+    uint64_t length = 0;
+    const char* text = plist_get_string_ptr(node, &length);
+    value = QString::fromUtf8(text, qsizetype(length));
+}
+
+// The flag is written as "%d" text; a true boolean or a number written by another tool
+// is taken as well.
+void readFlag(plist_t dictionary, const char* key, bool& value)
+{
+    const plist_t node = plist_dict_get_item(dictionary, key);
+    if (!node)
+        return;
+    switch (plist_get_node_type(node)) {
+    case PLIST_STRING: {
+        QString text;
+        readString(dictionary, key, text);
+        value = toInteger(text) != 0;
+        break;
+    }
+    case PLIST_BOOLEAN: {
+        uint8_t flag = 0;
+        plist_get_bool_val(node, &flag);
+        value = flag != 0;
+        break;
+    }
+    case PLIST_UINT: {
+        uint64_t number = 0;
+        plist_get_uint_val(node, &number);
+        value = number != 0;
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+void setString(plist_t dictionary, const char* key, const QString& value)
+{
+    plist_dict_set_item(dictionary, key, plist_new_string(value.toUtf8().constData()));
+}
+
+QByteArray preferencesXml(const Preferences& preferences)
+{
+    const Plist dictionary(plist_new_dict());
+    setString(dictionary.get(), preferencekeys::DefaultRulesFolderPath, preferences.defaultRulesFolderPath);
+    setString(dictionary.get(), preferencekeys::DefaultProfileFolderPath, preferences.defaultProfileFolderPath);
+    setString(dictionary.get(), preferencekeys::DefaultLogFolderPath, preferences.defaultLogFolderPath);
+    setString(dictionary.get(), preferencekeys::AutomaticSaveCurrProfile,
+              preferences.automaticSaveCurrProfile ? QStringLiteral("1") : QStringLiteral("0"));
+    char* xml = nullptr;
+    uint32_t length = 0;
+    plist_to_xml(dictionary.get(), &xml, &length);
+    const QByteArray bytes(xml, qsizetype(length));
+    plist_to_xml_free(xml);
+    return bytes;
+}
+
+}  // namespace
+
+QString getAppPath()
+{
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    if (data.isEmpty())
+        return {};
+    return joinPath(data, QString::fromLatin1(kSupportFolder));
+}
+
+QString preferencesFilePath()
+{
+    const QString support = getAppPath();
+    return support.isEmpty() ? QString() : joinPath(support, QString::fromLatin1(kPreferencesFile));
+}
+
+bool createApplicationUsersFolder(const QString& name, QString* error)
+{
+    const QString support = getAppPath();
+    if (support.isEmpty()) {
+        setError(error, localized("NOSUPPORTFOLDER"));
+        return false;
+    }
+    const QString path = joinPath(support, name);
+    const std::filesystem::path folder = fileSystemPath(path);
+    std::error_code code;
+    if (std::filesystem::is_directory(folder, code))
+        return true;
+    std::filesystem::create_directories(folder, code);
+    if (code) {
+        setError(error, folderError(path, code));
+        return false;
+    }
+    // Something that is not a folder may already stand at the path.
+    if (!std::filesystem::is_directory(folder, code)) {
+        setError(error, folderError(path, std::make_error_code(std::errc::not_a_directory)));
+        return false;
+    }
+    return true;
+}
+
+Preferences Preferences::defaults()
+{
+    const QString support = getAppPath();
+    Preferences preferences;
+    preferences.defaultRulesFolderPath = joinPath(support, QString::fromLatin1(supportfolders::Rules));
+    preferences.defaultProfileFolderPath = joinPath(support, QString::fromLatin1(supportfolders::Profiles));
+    preferences.defaultLogFolderPath = joinPath(support, QString::fromLatin1(supportfolders::Logs));
+    return preferences;
+}
+
+Preferences loadPreferences(QString* error)
+{
+    Preferences preferences = Preferences::defaults();
+    const QString path = preferencesFilePath();
+    if (!QFile::exists(path)) {
+        savePreferences(preferences, error);
+        return preferences;
+    }
+    const Plist dictionary = readPlist(path, error);
+    if (!dictionary)
+        return preferences;
+    readString(dictionary.get(), preferencekeys::DefaultLogFolderPath, preferences.defaultLogFolderPath);
+    readString(dictionary.get(), preferencekeys::DefaultProfileFolderPath, preferences.defaultProfileFolderPath);
+    readString(dictionary.get(), preferencekeys::DefaultRulesFolderPath, preferences.defaultRulesFolderPath);
+    readFlag(dictionary.get(), preferencekeys::AutomaticSaveCurrProfile, preferences.automaticSaveCurrProfile);
+    return preferences;
+}
+
+bool savePreferences(const Preferences& preferences, QString* error)
+{
+    const QString path = preferencesFilePath();
+    if (path.isEmpty()) {
+        setError(error, localized("NOSUPPORTFOLDER"));
+        return false;
+    }
+    QDir().mkpath(getAppPath());
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(preferencesXml(preferences)) < 0 || !file.commit()) {
+        setError(error, localized("PREFERENCESSAVEFAILED").arg(path, file.errorString()));
+        return false;
+    }
+    return true;
+}
+
+ApplicationSupport prepareApplicationSupport()
+{
+    ApplicationSupport support;
+    for (const char* name : {supportfolders::Logs, supportfolders::Profiles, supportfolders::Rules}) {
+        QString error;
+        if (!createApplicationUsersFolder(QString::fromLatin1(name), &error)) {
+            support.preferences = Preferences::defaults();
+            support.errorTitle = localized("APPLICATIONINITTITLE");
+            support.errorMessage = localized("APPLICATIONCREATEFOLDERFAILED").arg(error);
+            return support;
+        }
+    }
+    QString problem;
+    support.preferences = loadPreferences(&problem);
+    if (!problem.isEmpty())
+        qWarning("%s", qPrintable(problem));
+    return support;
+}
+
+}  // namespace tavrin
