@@ -1,0 +1,72 @@
+#include "core/log/JournalFile.h"
+
+#include <QFile>
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace tavrin {
+
+JournalFile::~JournalFile()
+{
+    close();
+}
+
+bool JournalFile::createExclusive(const QString& path)
+{
+    close();
+    m_fd = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+    m_size = 0;
+    return m_fd >= 0 || fail();
+}
+
+bool JournalFile::append(const QByteArray& bytes)
+{
+    if (m_fd < 0)
+        return false;
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const auto remaining = static_cast<size_t>(bytes.size() - written);
+        const ssize_t count
+            = ::pwrite(m_fd, bytes.constData() + written, remaining, static_cast<off_t>(m_size + written));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0) {
+            if (count == 0)
+                errno = ENOSPC;
+            const bool failed = fail();
+            // A half-written line would make everything after it unreadable.
+            if (::ftruncate(m_fd, static_cast<off_t>(m_size)) != 0)
+                close();
+            return failed;
+        }
+        written += count;
+    }
+    m_size += written;
+    return true;
+}
+
+bool JournalFile::truncateTo(qint64 size)
+{
+    if (m_fd < 0 || size < 0 || size > m_size)
+        return false;
+    if (::ftruncate(m_fd, static_cast<off_t>(size)) != 0)
+        return fail();
+    m_size = size;
+    return true;
+}
+
+void JournalFile::close()
+{
+    if (m_fd >= 0)
+        ::close(m_fd);
+    m_fd = -1;
+}
+
+bool JournalFile::fail()
+{
+    m_lastError = qt_error_string(errno);
+    return false;
+}
+
+}  // namespace tavrin

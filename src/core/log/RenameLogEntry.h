@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+namespace tavrin {
+
+// One rename as a log names it: the folders before and after, and the two names in the form
+// users see (every ":" of the stored name shown as "/").
+struct RenameLogEntry {
+    QString sourceLocation;  // "srclocation"
+    QString targetLocation;  // "tarlocation"
+    QString sourceName;  // "srcfilename"
+    QString targetName;  // "tarfilename"
+    // False for an entry read from a log that lacks one of the four attributes; undo skips it.
+    bool hasAllAttributes = true;
+
+    static RenameLogEntry fromPaths(const QString& sourcePath, const QString& targetPath);
+
+    // The paths again, names turned back into their stored form.
+    QString sourcePath() const;
+    QString targetPath() const;
+
+    bool operator==(const RenameLogEntry&) const = default;
+};
+
+}  // namespace tavrin

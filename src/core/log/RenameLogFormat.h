@@ -1,0 +1,37 @@
+#pragma once
+
+#include "core/log/RenameLogEntry.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+// The XML layout of a rename log. The names are an exchange format shared with logs written
+// by earlier versions, so they are spelled exactly as those files spell them.
+namespace tavrin::logxml {
+
+inline constexpr char Root[] = "files";
+inline constexpr char Entry[] = "file";
+inline constexpr char AppVersion[] = "appversion";
+inline constexpr char Type[] = "type";
+inline constexpr char SourceLocation[] = "srclocation";
+inline constexpr char TargetLocation[] = "tarlocation";
+inline constexpr char SourceName[] = "srcfilename";
+inline constexpr char TargetName[] = "tarfilename";
+
+// The values of "type": the list's files/folders mode when the batch ran.
+inline constexpr char TypeFiles[] = "FILES";
+inline constexpr char TypeFolders[] = "FOLDERS";
+
+// The XML declaration and the open root, each on its own line: what a log holds before its
+// first entry, while its batch is still running.
+QByteArray documentHead(const QString& type);
+
+// One entry as a line of its own, indented as in the finished document, so that a log cut
+// off after any entry still reads back entry by entry.
+QByteArray entryLine(const RenameLogEntry& entry);
+
+// The whole finished document, pretty-printed with four-space indentation.
+QByteArray document(const QString& type, const QList<RenameLogEntry>& entries);
+
+}  // namespace tavrin::logxml

@@ -1,0 +1,153 @@
+#include "core/log/RenameLog.h"
+#include "core/log/RenameLogReader.h"
+#include "core/platform/FileOperations.h"
+#include "support/TempTree.h"
+
+#include <QFile>
+#include <csignal>
+#include <gtest/gtest.h>
+
+using namespace tavrin;
+
+// A batch may be killed at any moment. What is on disk at that moment must name every rename
+// made so far, readable without the closing tag the batch never wrote.
+namespace {
+
+const QDateTime batchStart(QDate(2026, 11, 15), QTime(9, 5, 7));
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QList<RenameLogEntry> entriesOnDisk(const QString& path)
+{
+    const auto contents = readLogEntries(path);
+    EXPECT_TRUE(contents.has_value()) << path.toStdString();
+    EXPECT_FALSE(contents && contents->rootClosed);
+    return contents ? contents->entries : QList<RenameLogEntry>();
+}
+
+TEST(RenameLogInterimFile, HoldsEachEntryBeforeItsRenameIsAttempted)
+{
+    test::TempTree tree;
+    RenameLog log;
+    ASSERT_TRUE(log.create(tree.root(), QStringLiteral("FILES"), batchStart));
+    EXPECT_TRUE(entriesOnDisk(log.currLogFile()).isEmpty());
+
+    QList<RenameLogEntry> expected;
+    for (int i = 0; i < 4; ++i) {
+        const QString source = QStringLiteral("/d/old %1").arg(i);
+        const QString target = QStringLiteral("/d/new:%1").arg(i);
+        ASSERT_TRUE(log.addLogEntry(source, target));
+        expected.append(RenameLogEntry::fromPaths(source, target));
+        EXPECT_EQ(entriesOnDisk(log.currLogFile()), expected) << "after adding entry " << i;
+        if (i == 2) {
+            log.dropLastEntry();
+            expected.removeLast();
+            EXPECT_EQ(entriesOnDisk(log.currLogFile()), expected) << "after dropping entry " << i;
+        } else {
+            log.confirmEntry();
+        }
+    }
+}
+
+TEST(RenameLogInterimFile, StaysWhenTheBatchNeverFinishes)
+{
+    test::TempTree tree;
+    QString interim;
+    {
+        RenameLog log;
+        ASSERT_TRUE(log.create(tree.root(), QStringLiteral("FOLDERS"), batchStart));
+        log.addLogEntry(QStringLiteral("/d/a"), QStringLiteral("/d/b"));
+        log.confirmEntry();
+        log.addLogEntry(QStringLiteral("/d/c"), QStringLiteral("/d/e"));
+        interim = log.currLogFile();
+    }
+    const auto contents = readLogEntries(interim);
+    ASSERT_TRUE(contents.has_value());
+    EXPECT_EQ(contents->type, QStringLiteral("FOLDERS"));
+    EXPECT_EQ(contents->appVersion, QStringLiteral(TAVRIN_VERSION));
+    EXPECT_FALSE(contents->rootClosed);
+    ASSERT_EQ(contents->entries.size(), 2);
+    EXPECT_EQ(contents->entries[1].targetName, QStringLiteral("e"));
+}
+
+// The interim entries are the finished document's lines, so one reader serves both and a
+// recovered log looks like any other.
+TEST(RenameLogInterimFile, IsTheFinishedDocumentWithoutItsClosingTag)
+{
+    test::TempTree tree;
+    RenameLog log;
+    ASSERT_TRUE(log.create(tree.root(), QStringLiteral("FILES"), batchStart));
+    const QString names[]
+        = {QStringLiteral("plain"), QStringLiteral("tab\there"), QStringLiteral("line\nbreak\r"),
+            QStringLiteral("a&b<c>\"d\"'e'"), QStringLiteral("caf\u00e9 \U0001F600"), QStringLiteral("x:y")};
+    for (const QString& name : names) {
+        log.addLogEntry(QStringLiteral("/in/") + name, QStringLiteral("/out/") + name + QStringLiteral(" 2"));
+        log.confirmEntry();
+    }
+    const QByteArray interim = contentOf(log.currLogFile());
+    const QString path = log.finish();
+    EXPECT_EQ(interim + "</files>\n", contentOf(path));
+    EXPECT_FALSE(QFile::exists(log.currLogFile()));
+}
+
+TEST(RenameLogInterimFile, ALogLeftByAnotherBatchIsNeverOverwritten)
+{
+    test::TempTree tree;
+    const QByteArray leftover = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<files appversion=\"3.0.0\" "
+                                "type=\"FILES\">\n    <file srclocation=\"/a\" tarlocation=\"/a\" "
+                                "srcfilename=\"x\" tarfilename=\"y\"/>\n";
+    const QString interim = tree.file(QStringLiteral("Log 15-11-2026 09-05-07-#.xml"), leftover);
+
+    RenameLog log;
+    EXPECT_FALSE(log.create(tree.root(), QStringLiteral("FILES"), batchStart));
+    log.addLogEntry(QStringLiteral("/d/a"), QStringLiteral("/d/b"));
+    log.confirmEntry();
+    EXPECT_EQ(contentOf(interim), leftover);
+    const QString path = log.finish();
+    EXPECT_EQ(path, tree.path(QStringLiteral("Log 15-11-2026 09-05-07-1.xml")));
+    EXPECT_EQ(contentOf(interim), leftover);
+}
+
+// A real kill: the child renames files and dies by SIGKILL before finishing; the parent finds
+// every rename the child made named in the log it left.
+TEST(RenameLogInterimFileDeathTest, NamesEveryRenameOfAKilledBatch)
+{
+    test::TempTree tree;
+    for (int i = 0; i < 5; ++i)
+        tree.file(QStringLiteral("files/f%1").arg(i), QByteArray::number(i));
+    const QString logs = tree.folder(QStringLiteral("logs"));
+    const QString files = tree.path(QStringLiteral("files"));
+
+    const auto renameThreeThenDie = [&] {
+        RenameLog log;
+        if (!log.create(logs, QStringLiteral("FILES"), batchStart))
+            std::_Exit(2);
+        for (int i = 0; i < 3; ++i) {
+            const QString source = files + QStringLiteral("/f%1").arg(i);
+            const QString target = files + QStringLiteral("/renamed %1").arg(i);
+            log.addLogEntry(source, target);
+            if (moveItemNoReplace(source, target).ok())
+                log.confirmEntry();
+            else
+                log.dropLastEntry();
+        }
+        std::raise(SIGKILL);
+    };
+    EXPECT_EXIT(renameThreeThenDie(), ::testing::KilledBySignal(SIGKILL), "");
+
+    const QList<RenameLogEntry> entries
+        = entriesOnDisk(logs + QStringLiteral("/Log 15-11-2026 09-05-07-#.xml"));
+    ASSERT_EQ(entries.size(), 3);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(entries[i].sourcePath(), files + QStringLiteral("/f%1").arg(i));
+        EXPECT_EQ(entries[i].targetPath(), files + QStringLiteral("/renamed %1").arg(i));
+        EXPECT_EQ(tree.read(QStringLiteral("files/renamed %1").arg(i)), QByteArray::number(i));
+    }
+    EXPECT_TRUE(tree.exists(QStringLiteral("files/f3")));
+}
+
+}  // namespace

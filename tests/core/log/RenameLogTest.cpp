@@ -1,0 +1,241 @@
+#include "core/log/RenameLog.h"
+#include "core/log/RenameLogReader.h"
+#include "support/TempTree.h"
+
+#include <QDir>
+#include <QFile>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace tavrin;
+
+namespace {
+
+const QDateTime batchStart(QDate(2026, 11, 15), QTime(9, 5, 7));
+
+QStringList filesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
+}
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// One rename that happened: logged, then confirmed.
+void logRename(RenameLog& log, const QString& source, const QString& target)
+{
+    log.addLogEntry(source, target);
+    log.confirmEntry();
+}
+
+TEST(GetNewLogFileName, DayMonthYearThenTwentyFourHourTime)
+{
+    struct Row {
+        QDateTime when;
+        const char* name;
+    };
+    const Row rows[] = {
+        {batchStart, "Log 15-11-2026 09-05-07-#.xml"},
+        {QDateTime(QDate(2027, 1, 2), QTime(0, 0, 0)), "Log 02-01-2027 00-00-00-#.xml"},
+        {QDateTime(QDate(2026, 12, 31), QTime(23, 59, 59)), "Log 31-12-2026 23-59-59-#.xml"},
+        {QDateTime(QDate(987, 3, 4), QTime(13, 1, 2)), "Log 04-03-0987 13-01-02-#.xml"},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(getNewLogFileName(row.when), QString::fromUtf8(row.name));
+}
+
+TEST(RenameLog, ABatchOfTwelveLeavesOneLogNamedWithItsCount)
+{
+    test::TempTree tree;
+    const QString folder = tree.folder(QStringLiteral("Logs"));
+    RenameLog log;
+    ASSERT_TRUE(log.create(folder, QStringLiteral("FILES"), batchStart));
+    EXPECT_EQ(log.currLogFile(), folder + QStringLiteral("/Log 15-11-2026 09-05-07-#.xml"));
+    for (int i = 0; i < 12; ++i)
+        logRename(log, QStringLiteral("/p/old%1").arg(i), QStringLiteral("/p/new%1").arg(i));
+
+    const QString path = log.finish();
+    EXPECT_EQ(path, folder + QStringLiteral("/Log 15-11-2026 09-05-07-12.xml"));
+    EXPECT_EQ(filesIn(folder), QStringList {QStringLiteral("Log 15-11-2026 09-05-07-12.xml")});
+    const auto contents = readLogEntries(path);
+    ASSERT_TRUE(contents.has_value());
+    ASSERT_EQ(contents->entries.size(), 12);
+    EXPECT_EQ(contents->entries.first().sourceName, QStringLiteral("old0"));
+    EXPECT_EQ(contents->entries.last().targetName, QStringLiteral("new11"));
+}
+
+TEST(RenameLog, WritesTheFinishedDocumentByteForByte)
+{
+    test::TempTree tree;
+    RenameLog log;
+    ASSERT_TRUE(log.create(tree.root(), QStringLiteral("FILES"), batchStart));
+    logRename(log, QStringLiteral("/photos/trip/IMG_0001.JPG"), QStringLiteral("/photos/trip/Rome 1.jpg"));
+    logRename(
+        log, QStringLiteral("/photos/trip/a:b & <c>.txt"), QStringLiteral("/photos/trip/\"quoted\" 'x'.txt"));
+
+    const QByteArray expected
+        = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+          "<files appversion=\"" TAVRIN_VERSION "\" type=\"FILES\">\n"
+          "    <file srclocation=\"/photos/trip\" tarlocation=\"/photos/trip\" "
+          "srcfilename=\"IMG_0001.JPG\" tarfilename=\"Rome 1.jpg\"/>\n"
+          "    <file srclocation=\"/photos/trip\" tarlocation=\"/photos/trip\" "
+          "srcfilename=\"a/b &amp; &lt;c&gt;.txt\" tarfilename=\"&quot;quoted&quot; 'x'.txt\"/>\n"
+          "</files>\n";
+    EXPECT_EQ(contentOf(log.finish()), expected);
+}
+
+TEST(RenameLog, AnEmptyBatchLeavesALogCountingZero)
+{
+    test::TempTree tree;
+    RenameLog log;
+    ASSERT_TRUE(log.create(tree.root(), QStringLiteral("FOLDERS"), batchStart));
+    const QString path = log.finish();
+    EXPECT_EQ(path, tree.path(QStringLiteral("Log 15-11-2026 09-05-07-0.xml")));
+    EXPECT_EQ(contentOf(path),
+        QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                   "<files appversion=\"" TAVRIN_VERSION "\" type=\"FOLDERS\"/>\n"));
+    EXPECT_EQ(filesIn(tree.root()).size(), 1);
+}
+
+TEST(RenameLog, ShowsStoredColonsAsSlashesInNamesOnly)
+{
+    test::TempTree tree;
+    RenameLog log;
+    ASSERT_TRUE(log.create(tree.root(), QStringLiteral("FOLDERS"), batchStart));
+    logRename(
+        log, QStringLiteral("/data/in:box/10:30 call"), QStringLiteral("/data/in:box/10:30 call:notes"));
+    const auto contents = readLogEntries(log.finish());
+    ASSERT_TRUE(contents.has_value());
+    EXPECT_EQ(contents->type, QStringLiteral("FOLDERS"));
+    EXPECT_EQ(contents->appVersion, QStringLiteral(TAVRIN_VERSION));
+    ASSERT_EQ(contents->entries.size(), 1);
+    const RenameLogEntry& entry = contents->entries.first();
+    EXPECT_EQ(entry.sourceLocation, QStringLiteral("/data/in:box"));
+    EXPECT_EQ(entry.targetLocation, QStringLiteral("/data/in:box"));
+    EXPECT_EQ(entry.sourceName, QStringLiteral("10/30 call"));
+    EXPECT_EQ(entry.targetName, QStringLiteral("10/30 call/notes"));
+    EXPECT_EQ(entry.sourcePath(), QStringLiteral("/data/in:box/10:30 call"));
+    EXPECT_EQ(entry.targetPath(), QStringLiteral("/data/in:box/10:30 call:notes"));
+}
+
+TEST(RenameLog, ReplacesEveryHashOfThePathWithTheCount)
+{
+    test::TempTree tree;
+    const QString folder = tree.folder(QStringLiteral("logs#"));
+    tree.folder(QStringLiteral("logs3"));
+    RenameLog log;
+    ASSERT_TRUE(log.create(folder, QStringLiteral("FILES"), batchStart));
+    for (int i = 0; i < 3; ++i)
+        logRename(log, QStringLiteral("/x/%1").arg(i), QStringLiteral("/x/y%1").arg(i));
+
+    const QString path = log.finish();
+    EXPECT_EQ(path, tree.path(QStringLiteral("logs3/Log 15-11-2026 09-05-07-3.xml")));
+    EXPECT_EQ(filesIn(tree.path(QStringLiteral("logs3"))).size(), 1);
+    EXPECT_TRUE(filesIn(folder).isEmpty());
+}
+
+TEST(RenameLog, LeavesOutARenameThatFailed)
+{
+    test::TempTree tree;
+    RenameLog log;
+    ASSERT_TRUE(log.create(tree.root(), QStringLiteral("FILES"), batchStart));
+    logRename(log, QStringLiteral("/d/a"), QStringLiteral("/d/A"));
+    ASSERT_TRUE(log.addLogEntry(QStringLiteral("/d/b"), QStringLiteral("/d/B")));
+    log.dropLastEntry();
+    logRename(log, QStringLiteral("/d/c"), QStringLiteral("/d/C"));
+    EXPECT_EQ(log.renamedCount(), 2);
+
+    const QString path = log.finish();
+    EXPECT_EQ(path, tree.path(QStringLiteral("Log 15-11-2026 09-05-07-2.xml")));
+    const auto contents = readLogEntries(path);
+    ASSERT_TRUE(contents.has_value());
+    ASSERT_EQ(contents->entries.size(), 2);
+    EXPECT_EQ(contents->entries[0].sourceName, QStringLiteral("a"));
+    EXPECT_EQ(contents->entries[1].sourceName, QStringLiteral("c"));
+}
+
+// An entry nobody confirmed or dropped may stand for a rename that happened.
+TEST(RenameLog, KeepsAnEntryLeftUnresolved)
+{
+    test::TempTree tree;
+    RenameLog log;
+    ASSERT_TRUE(log.create(tree.root(), QStringLiteral("FILES"), batchStart));
+    log.addLogEntry(QStringLiteral("/d/a"), QStringLiteral("/d/A"));
+    log.addLogEntry(QStringLiteral("/d/b"), QStringLiteral("/d/B"));
+    EXPECT_EQ(log.renamedCount(), 1);
+    const auto contents = readLogEntries(log.finish());
+    ASSERT_TRUE(contents.has_value());
+    EXPECT_EQ(contents->entries.size(), 2);
+}
+
+TEST(RenameLog, ABatchInTheSameSecondWithTheSameCountReplacesTheEarlierLog)
+{
+    test::TempTree tree;
+    QString firstPath;
+    {
+        RenameLog first;
+        ASSERT_TRUE(first.create(tree.root(), QStringLiteral("FILES"), batchStart));
+        logRename(first, QStringLiteral("/d/first"), QStringLiteral("/d/1"));
+        firstPath = first.finish();
+    }
+    RenameLog second;
+    ASSERT_TRUE(second.create(tree.root(), QStringLiteral("FILES"), batchStart));
+    logRename(second, QStringLiteral("/d/second"), QStringLiteral("/d/2"));
+    EXPECT_EQ(second.finish(), firstPath);
+    EXPECT_EQ(filesIn(tree.root()).size(), 1);
+    const auto contents = readLogEntries(firstPath);
+    ASSERT_TRUE(contents.has_value());
+    ASSERT_EQ(contents->entries.size(), 1);
+    EXPECT_EQ(contents->entries.first().sourceName, QStringLiteral("second"));
+}
+
+TEST(RenameLog, CollectsEntriesWithoutAUsableFile)
+{
+    test::TempTree tree;
+    RenameLog log;
+    EXPECT_FALSE(
+        log.create(tree.path(QStringLiteral("no-such-folder")), QStringLiteral("FILES"), batchStart));
+    EXPECT_FALSE(log.hasUsableFile());
+    EXPECT_FALSE(log.addLogEntry(QStringLiteral("/d/a"), QStringLiteral("/d/b")));
+    log.confirmEntry();
+    log.addLogEntry(QStringLiteral("/d/c"), QStringLiteral("/d/e"));
+    log.dropLastEntry();
+    logRename(log, QStringLiteral("/d/f"), QStringLiteral("/d/g"));
+
+    EXPECT_EQ(log.renamedCount(), 2);
+    ASSERT_EQ(log.entries().size(), 2);
+    EXPECT_EQ(log.entries()[1], RenameLogEntry::fromPaths(QStringLiteral("/d/f"), QStringLiteral("/d/g")));
+    EXPECT_TRUE(log.finish().isEmpty());
+    EXPECT_TRUE(filesIn(tree.root()).isEmpty());
+}
+
+TEST(RenameLog, CannotBeCreatedInAFolderWithoutWritePermission)
+{
+    if (::geteuid() == 0)
+        GTEST_SKIP() << "root writes into any folder";
+    test::TempTree tree;
+    const QString folder = tree.folder(QStringLiteral("locked"));
+    ASSERT_EQ(::chmod(QFile::encodeName(folder).constData(), 0500), 0);
+    RenameLog log;
+    EXPECT_FALSE(log.create(folder, QStringLiteral("FILES"), batchStart));
+    logRename(log, QStringLiteral("/d/a"), QStringLiteral("/d/b"));
+    EXPECT_EQ(log.renamedCount(), 1);
+    EXPECT_TRUE(log.finish().isEmpty());
+    EXPECT_TRUE(filesIn(folder).isEmpty());
+    ::chmod(QFile::encodeName(folder).constData(), 0700);
+}
+
+TEST(DeleteLogFile, RemovesAFileAndReportsAMissingOne)
+{
+    test::TempTree tree;
+    const QString path = tree.file(QStringLiteral("Log 01-01-2026 00-00-00-1.xml"), "x");
+    EXPECT_TRUE(deleteLogFile(path));
+    EXPECT_FALSE(tree.exists(QStringLiteral("Log 01-01-2026 00-00-00-1.xml")));
+    EXPECT_FALSE(deleteLogFile(path));
+}
+
+}  // namespace
