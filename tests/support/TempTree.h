@@ -4,6 +4,8 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include "support/QtPrinters.h"
+
 namespace tavrin::test {
 
 // A temporary folder that tests fill with real files, folders and links.

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "core/engine/ActionRegistry.h"
+#include "core/engine/OptionValues.h"
+#include "core/list/Progress.h"
+
+#include <QString>
+#include <atomic>
+#include <functional>
+
+namespace tavrin {
+
+class FileList;
+
+struct PreviewOutcome {
+    bool actionSucceeded = true;  // the result of the last action call
+    QString lastError;            // the error text of the last failed action call
+    bool hasFilesForRenaming = false;
+    bool cancelled = false;
+};
+
+struct ApplyOutcome {
+    int renamed = 0;
+    int failed = 0;         // proposals that could not be applied
+    QString logPath;        // the saved log, empty when none could be written
+    bool aborted = false;   // the log could not be made and the user chose not to go on
+    bool cancelled = false;
+};
+
+// Asked from the worker thread when the log cannot be created: true goes on without a
+// usable log, false ends the apply before any rename.
+using ContinueWithoutLog = std::function<bool()>;
+
+// Proposes one record's new name (the action of a tab, or the steps of a rule chain).
+class Proposer {
+public:
+    virtual ~Proposer() = default;
+    // The counters start again (the start of a run, and each new folder when they restart there).
+    virtual void resetCounters() = 0;
+    virtual bool restartsInEachFolder() const = 0;
+    // False for the rename-from-file tab, whose proposals are imported, not computed.
+    virtual bool computesNames() const = 0;
+    virtual bool propose(FileSystemItem& item, QString& error) = 0;
+};
+
+// The action of one tab over the settings' values.
+class TabProposer final : public Proposer {
+public:
+    TabProposer(const OptionValues& options, int tab);
+    void resetCounters() override;
+    bool restartsInEachFolder() const override;
+    bool computesNames() const override;
+    bool propose(FileSystemItem& item, QString& error) override;
+
+private:
+    const OptionValues& m_options;
+    const ActionEntry* m_action;
+    SequenceCounters m_counters;
+};
+
+// Preview and apply over a file list. The options are read by key ("selectedTab",
+// "isFolders", "isIncludeSubFolders", "generalOptionIndex" and the action's own). Runs on
+// whatever thread calls it; reports through the observer and stops when `cancel` is set.
+class Pipeline {
+public:
+    Pipeline(FileList& list, const OptionValues& options);
+
+    // Proposes a new name or a status for every record (the first `limit` records when
+    // limit >= 0; the others are left with an empty newFilename).
+    PreviewOutcome preview(const std::atomic_bool& cancel, ProgressObserver* observer, int limit = -1);
+    PreviewOutcome preview(Proposer& proposer, const std::atomic_bool& cancel, ProgressObserver* observer,
+                           int limit = -1);
+
+    // Renames on disk every record that holds a proposal, logging each rename in a new log
+    // in `logFolder`. Never overwrites anything.
+    ApplyOutcome applyRenames(const QString& logFolder, const ContinueWithoutLog& continueWithoutLog,
+                              const std::atomic_bool& cancel, ProgressObserver* observer);
+
+private:
+    void judgeProposal(FileSystemItem& item, PreviewOutcome& outcome) const;
+    bool movesFoldersWithContents() const;
+
+    FileList& m_list;
+    const OptionValues& m_options;
+};
+
+// "TIMETAKEN" filled with the text of `key` ("PREVIEWTIME", "RENAMINGTIME", ...) and the seconds.
+QString timeTakenText(double seconds, const char* key);
+
+}  // namespace tavrin
