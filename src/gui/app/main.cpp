@@ -1,10 +1,55 @@
+#include "core/text/LocalizedStrings.h"
+#include "gui/app/MainWindow.h"
+#include "gui/app/TavrinAppController.h"
+
 #include <QApplication>
-#include <QMainWindow>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QIcon>
+
+namespace {
+
+// Paths typed in a terminal are relative to the folder the command ran in.
+QStringList absolutePaths(const QStringList& arguments)
+{
+    const QDir current = QDir::current();
+    QStringList paths;
+    for (const QString& argument : arguments)
+        paths.append(QDir::cleanPath(current.absoluteFilePath(argument)));
+    return paths;
+}
+
+QStringList parsePaths(const QApplication& app)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tavrin::localized("APPTITLE"));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("paths"), QStringLiteral("Files or folders to list."),
+                                 QStringLiteral("[PATH...]"));
+    parser.process(app);
+    return absolutePaths(parser.positionalArguments());
+}
+
+}  // namespace
 
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
-    QMainWindow window;
+    QApplication::setOrganizationName(QStringLiteral("Palisade Soft"));
+    QApplication::setApplicationName(QStringLiteral("Tavrin3"));
+    QApplication::setApplicationDisplayName(tavrin::localized("APPTITLE"));
+    QApplication::setApplicationVersion(QStringLiteral(TAVRIN_VERSION));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/tavrin.svg")));
+    // Outside a desktop session Qt knows no icon theme; borrow a common one when present.
+    QIcon::setFallbackThemeName(QStringLiteral("Adwaita"));
+
+    const QStringList paths = parsePaths(app);
+
+    tavrin::TavrinAppController controller;
+    tavrin::MainWindow window(&controller);
     window.show();
+    if (!paths.isEmpty())
+        window.addPaths(paths);
     return app.exec();
 }

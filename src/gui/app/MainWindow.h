@@ -1,0 +1,100 @@
+#pragma once
+
+#include <QList>
+#include <QMainWindow>
+#include <QStringList>
+
+class QAction;
+class QFileDialog;
+class QLabel;
+class QProgressBar;
+class QToolBar;
+
+namespace tavrin {
+
+class AttachedWindow;
+class ElidedLabel;
+class FileTableModel;
+class FileTableView;
+class ListModeSelector;
+class TavrinAppController;
+
+// The one window: the list of items with its toolbar and status line above, and below
+// it the area where the renaming actions live.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit MainWindow(TavrinAppController* controller, QWidget* parent = nullptr);
+
+    FileTableView* tableView() const { return m_table; }
+    FileTableModel* tableModel() const { return m_model; }
+    // Empty for now: the home of the action tabs and of Preview and Apply.
+    QWidget* actionArea() const { return m_actionArea; }
+
+    // Lists the paths in the current mode, off the GUI thread.
+    void addPaths(const QStringList& paths);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void createActions();
+    void createMenus();
+    void createToolBar();
+    QWidget* createCentralArea();
+    void createStatusArea();
+    void connectController();
+    void setDefaultColumnWidths();
+
+    QFileDialog* makeChooser();
+    void chooseFiles();
+    void chooseFolders();
+    void removeSelected();
+    void clearList();
+    void moveSelectedUp();
+    void moveSelectedDown();
+    void showMovedSelection(const QList<int>& rows);
+    void selectRows(const QList<int>& rows);
+    QList<int> selectedRows() const;
+
+    void sortIndicatorChanged(int section, Qt::SortOrder order);
+    void clearSortIndicator();
+
+    void executingChanged(bool executing);
+    void listChanged();
+    void modeChanged();
+    void updateAddActions();
+    void updateMoveActions();
+    void showSkippedNames(const QStringList& paths);
+    void showAttachedMessage(QAction* besideAction, const char* key);
+
+    TavrinAppController* m_controller;
+    FileTableModel* m_model;
+    FileTableView* m_table = nullptr;
+    QWidget* m_actionArea = nullptr;
+    QToolBar* m_toolBar = nullptr;
+    ListModeSelector* m_modeSelector = nullptr;
+    AttachedWindow* m_attached;
+
+    QAction* m_addFilesAction = nullptr;
+    QAction* m_addFoldersAction = nullptr;
+    QAction* m_removeAction = nullptr;
+    QAction* m_clearAction = nullptr;
+    QAction* m_moveUpAction = nullptr;
+    QAction* m_moveDownAction = nullptr;
+    QAction* m_cancelAction = nullptr;
+    QAction* m_quitAction = nullptr;
+
+    QLabel* m_countLabel = nullptr;
+    ElidedLabel* m_progressLabel = nullptr;
+    QProgressBar* m_busyIndicator = nullptr;
+    QLabel* m_skippedLabel = nullptr;
+    QLabel* m_timeLabel = nullptr;
+
+    int m_sortSection = -1;
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+    QString m_lastChosenFolder;
+};
+
+}  // namespace tavrin

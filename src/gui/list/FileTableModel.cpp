@@ -1,0 +1,120 @@
+#include "gui/list/FileTableModel.h"
+
+#include "core/list/FileSystemItem.h"
+#include "core/list/StatusTexts.h"
+#include "core/text/LocalizedStrings.h"
+#include "gui/app/TavrinAppController.h"
+
+#include <QFont>
+#include <iterator>
+
+namespace tavrin {
+
+namespace {
+
+struct ColumnInfo {
+    const char* key;
+    const char* titleKey;
+};
+
+// In the order of FileTableModel::Column.
+constexpr ColumnInfo kColumns[] = {
+    {itemkeys::Icon, nullptr},
+    {itemkeys::FilenameWithExtension, "NAMECOLUMN"},
+    {itemkeys::NewFilename, "NEWNAMECOLUMN"},
+    {itemkeys::FileLocation, "LOCATIONCOLUMN"},
+    {itemkeys::FileExtension, "EXTENSIONCOLUMN"},
+    {itemkeys::FileType, "TYPECOLUMN"},
+};
+static_assert(std::size(kColumns) == FileTableModel::ColumnCount);
+
+bool isValidColumn(int column)
+{
+    return column >= 0 && column < FileTableModel::ColumnCount;
+}
+
+}  // namespace
+
+FileTableModel::FileTableModel(TavrinAppController* controller, QObject* parent)
+    : QAbstractTableModel(parent)
+    , m_controller(controller)
+{
+    connect(controller, &TavrinAppController::listAboutToChange, this, &FileTableModel::beginResetModel);
+    connect(controller, &TavrinAppController::listChanged, this, &FileTableModel::endResetModel);
+    connect(controller, &TavrinAppController::orderAboutToChange, this, [this] { emit layoutAboutToBeChanged(); });
+    connect(controller, &TavrinAppController::orderChanged, this, [this] { emit layoutChanged(); });
+}
+
+int FileTableModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : m_controller->shownCount();
+}
+
+int FileTableModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QString FileTableModel::columnKey(int column)
+{
+    return isValidColumn(column) ? QString::fromLatin1(kColumns[column].key) : QString();
+}
+
+bool FileTableModel::isSortableColumn(int column)
+{
+    return isValidColumn(column) && column != IconColumn;
+}
+
+QVariant FileTableModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() >= rowCount())
+        return {};
+    const FileSystemItem& item = m_controller->shownItems()[static_cast<size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return index.column() == IconColumn ? QVariant() : QVariant(displayText(index.row(), index.column()));
+    case Qt::DecorationRole:
+        return index.column() == IconColumn ? QVariant(m_icons.icon(item)) : QVariant();
+    case Qt::ToolTipRole:
+        return getDisplayFilePath(item.fullPath());
+    case Qt::FontRole:
+        if (index.column() == NewNameColumn && status::isStatus(item.newFilename())) {
+            QFont font;
+            font.setItalic(true);
+            return font;
+        }
+        return {};
+    default:
+        return {};
+    }
+}
+
+QString FileTableModel::displayText(int row, int column) const
+{
+    const FileSystemItem& item = m_controller->shownItems()[static_cast<size_t>(row)];
+    const QString text = item.displayField(columnKey(column));
+    // The record answers the type as a string-table key ("FILE", "FOLDER").
+    if (column == TypeColumn && !text.isEmpty())
+        return LocalizedStrings::text(text);
+    return text;
+}
+
+QVariant FileTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || !isValidColumn(section))
+        return {};
+    if (role == Qt::DisplayRole && kColumns[section].titleKey)
+        return localized(kColumns[section].titleKey);
+    if (role == Qt::InitialSortOrderRole)
+        return static_cast<int>(Qt::AscendingOrder);
+    return {};
+}
+
+void FileTableModel::sort(int column, Qt::SortOrder order)
+{
+    if (!isSortableColumn(column))
+        return;
+    m_controller->sort({columnKey(column), order == Qt::AscendingOrder});
+}
+
+}  // namespace tavrin

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "gui/list/ItemIconCache.h"
+
+#include <QAbstractTableModel>
+
+namespace tavrin {
+
+class TavrinAppController;
+
+// The table of listed items, read straight from the controller's list: no per-row state,
+// so a reset costs the same for ten rows as for a hundred thousand.
+class FileTableModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    enum Column { IconColumn, NameColumn, NewNameColumn, LocationColumn, ExtensionColumn, TypeColumn, ColumnCount };
+
+    explicit FileTableModel(TavrinAppController* controller, QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+    // Sorts the list itself by the column's key; the icon column does not sort.
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+
+    // The record key a column shows ("filenameWithExtension", ...).
+    static QString columnKey(int column);
+    static bool isSortableColumn(int column);
+
+private:
+    QString displayText(int row, int column) const;
+
+    TavrinAppController* m_controller;
+    mutable ItemIconCache m_icons;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,5 @@
+tavrin_add_test(test_gui_controller GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/TavrinAppControllerTest.cpp)
+tavrin_add_test(test_gui_file_table_model GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/FileTableModelTest.cpp)
+tavrin_add_test(test_gui_item_icons GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/ItemIconCacheTest.cpp)
+tavrin_add_test(test_gui_attached_window GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/AttachedWindowTest.cpp)
+tavrin_add_test(test_gui_main_window GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/MainWindowTest.cpp)
