@@ -1,2 +1,6 @@
 target_sources(tavrin_cli_lib PRIVATE
-  ${CMAKE_CURRENT_LIST_DIR}/Cli.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/Cli.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/CommonOptions.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ListCommand.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/LoadedList.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Usage.cpp)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/list/FileSystemItem.h"
+#include "core/list/FilesComparison.h"
 #include "core/list/Progress.h"
 
 #include <QList>
@@ -36,9 +37,11 @@ struct SortKey {
 class FileList {
 public:
     // Scans the paths depth-first, parent before children, and appends new records.
+    // Relative paths are taken from the current folder; missing paths are skipped.
     // Hidden items are never listed nor descended into; a path already known is skipped;
     // cancel is polled before every path and every folder entry. In folder mode with
-    // sub-folders the chosen top folders themselves are left out.
+    // sub-folders the chosen top folders themselves are left out (also when an earlier
+    // scan listed them), so only the folders below them are renamed.
     ScanResult addFiles(const QStringList& paths, const ScanOptions& options,
                         const std::atomic_bool& cancel, ProgressObserver* observer = nullptr);
 
@@ -56,8 +59,9 @@ public:
     void clear();
     // Removes the given rows in one step and rebuilds the known-path set.
     void remove(const QList<int>& rows);
-    // Move the selected rows one place; rows already at the edge stay. Each returns the
-    // rows the moved records now occupy (the new selection).
+    // Move the selected rows one place; rows already at the edge stay, and so does a
+    // selected block that reaches the edge. Each returns the rows the selected records
+    // now occupy (the new selection); unknown and repeated rows are ignored.
     QList<int> moveUp(const QList<int>& selectedRows);
     QList<int> moveDown(const QList<int>& selectedRows);
 
@@ -70,12 +74,10 @@ public:
     void resetFilesDic();
 
 private:
+    int removeChosenFolders(const QStringList& chosen, size_t firstNewRow);
+
     std::vector<FileSystemItem> m_files;
     QSet<QString> m_knownPaths;
 };
-
-// The one comparison of every sort: case-insensitive and numeric-aware ("a9" < "A10"),
-// also when the system locale is C. Negative, zero or positive.
-int compareFiles(const QString& a, const QString& b);
 
 }  // namespace tavrin

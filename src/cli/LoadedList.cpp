@@ -1,0 +1,52 @@
+#include "cli/LoadedList.h"
+
+#include "core/text/LocalizedStrings.h"
+
+#include <QFile>
+#include <ranges>
+#include <sys/stat.h>
+
+namespace tavrin::cli {
+
+namespace {
+
+bool existsOnDisk(const QString& path)
+{
+    struct stat info { };
+    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
+}
+
+// Stable sorts from the last key to the first leave the first key deciding, the next
+// one breaking its ties, and so on.
+void sortByKeys(FileList& list, const QList<SortKey>& keys)
+{
+    for (const SortKey& key : std::views::reverse(keys))
+        list.sortBy(key);
+}
+
+} // namespace
+
+LoadedList loadList(const CommonOptions& options)
+{
+    LoadedList loaded;
+    for (const QString& path : options.paths) {
+        if (!existsOnDisk(path))
+            loaded.missing.append(path);
+    }
+    const std::atomic_bool neverCancelled = false;
+    loaded.skipped = loaded.list.addFiles(options.paths, options.scan, neverCancelled).skipped;
+    sortByKeys(loaded.list, options.sortKeys);
+    return loaded;
+}
+
+void reportProblems(const LoadedList& loaded, bool reportSkipped, QTextStream& err)
+{
+    for (const QString& path : loaded.missing)
+        err << localized("CLIPATHNOTFOUND").arg(path) << '\n';
+    if (!reportSkipped)
+        return;
+    for (const QString& path : loaded.skipped)
+        err << localized("CLISKIPPEDNAME").arg(path) << '\n';
+}
+
+} // namespace tavrin::cli
