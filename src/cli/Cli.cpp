@@ -1,6 +1,7 @@
 #include "cli/Cli.h"
 
 #include "cli/ListCommand.h"
+#include "cli/RenameCommand.h"
 #include "cli/Usage.h"
 #include "core/text/LocalizedStrings.h"
 
@@ -16,6 +17,8 @@ struct Command {
 
 const Command kCommands[] = {
     { "list", "CLILISTSUMMARY", runListCommand },
+    { "preview", "CLIPREVIEWSUMMARY", runPreviewCommand },
+    { "apply", "CLIAPPLYSUMMARY", runApplyCommand },
 };
 
 const Command* findCommand(const QString& name)

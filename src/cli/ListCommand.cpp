@@ -1,13 +1,12 @@
 #include "cli/ListCommand.h"
 
 #include "cli/CommonOptions.h"
+#include "cli/ListJson.h"
 #include "cli/LoadedList.h"
 #include "cli/Usage.h"
 #include "core/text/LocalizedStrings.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 namespace tavrin::cli {
 
@@ -15,27 +14,9 @@ namespace {
 
 const char kCommand[] = "list";
 
-// The stored values, not the display form, so a script sees the names as they are on disk.
-QJsonObject itemObject(const FileSystemItem& item)
-{
-    QJsonObject object;
-    for (const char* key : { itemkeys::FileWithPath, itemkeys::FilenameWithExtension, itemkeys::Filename,
-             itemkeys::FileExtension, itemkeys::FileLocation, itemkeys::FileType, itemkeys::NewFilename }) {
-        const QString name = QString::fromLatin1(key);
-        object.insert(name, item.objectForKey(name));
-    }
-    return object;
-}
-
 void printJson(const LoadedList& loaded, QTextStream& out)
 {
-    QJsonArray items;
-    for (const FileSystemItem& item : loaded.list.items())
-        items.append(itemObject(item));
-    QJsonObject root;
-    root.insert(QStringLiteral("items"), items);
-    root.insert(QStringLiteral("skipped"), QJsonArray::fromStringList(loaded.skipped));
-    out << QJsonDocument(root).toJson(QJsonDocument::Indented);
+    out << QJsonDocument(listJson(loaded.list, loaded.skipped)).toJson(QJsonDocument::Indented);
 }
 
 void printText(const LoadedList& loaded, bool folders, QTextStream& out)

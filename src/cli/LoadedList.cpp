@@ -16,6 +16,12 @@ bool existsOnDisk(const QString& path)
     return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
 }
 
+bool isRealFolder(const QString& path)
+{
+    struct stat info { };
+    return ::lstat(QFile::encodeName(path).constData(), &info) == 0 && S_ISDIR(info.st_mode);
+}
+
 // Stable sorts from the last key to the first leave the first key deciding, the next
 // one breaking its ties, and so on.
 void sortByKeys(FileList& list, const QList<SortKey>& keys)
@@ -32,6 +38,8 @@ LoadedList loadList(const CommonOptions& options)
     for (const QString& path : options.paths) {
         if (!existsOnDisk(path))
             loaded.missing.append(path);
+        else if (!options.scan.folders && !options.scan.includeSubFolders && isRealFolder(path))
+            loaded.unsearchedFolders.append(path);
     }
     const std::atomic_bool neverCancelled = false;
     loaded.skipped = loaded.list.addFiles(options.paths, options.scan, neverCancelled).skipped;
@@ -43,6 +51,8 @@ void reportProblems(const LoadedList& loaded, bool reportSkipped, QTextStream& e
 {
     for (const QString& path : loaded.missing)
         err << localized("CLIPATHNOTFOUND").arg(path) << '\n';
+    for (const QString& path : loaded.unsearchedFolders)
+        err << localized("CLIFOLDERNOTSEARCHED").arg(path) << '\n';
     if (!reportSkipped)
         return;
     for (const QString& path : loaded.skipped)

@@ -12,6 +12,7 @@ struct LoadedList {
     FileList list;
     QStringList skipped; // names that are not valid UTF-8, as readable paths
     QStringList missing; // PATHs given that do not exist
+    QStringList unsearchedFolders; // folders given in files mode without sub-folders
 };
 
 // Scans the PATHs in the mode the options ask for, then sorts by each --sort key, the

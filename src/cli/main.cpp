@@ -1,4 +1,6 @@
 #include "cli/Cli.h"
+#include "cli/Usage.h"
+#include "core/profiles/Preferences.h"
 
 #include <QCoreApplication>
 #include <cstdio>
@@ -8,6 +10,12 @@ int main(int argc, char** argv)
     QCoreApplication app(argc, argv);
     QTextStream out(stdout);
     QTextStream err(stderr);
+    // The support folder with its logs, profiles and rules is there before any command runs.
+    const tavrin::ApplicationSupport support = tavrin::prepareApplicationSupport();
+    if (!support.isReady()) {
+        err << support.errorTitle << ": " << support.errorMessage << '\n';
+        return tavrin::cli::kExitFailed;
+    }
     QStringList arguments = QCoreApplication::arguments();
     arguments.removeFirst();
     const int status = tavrin::cli::run(arguments, out, err);

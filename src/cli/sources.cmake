@@ -2,5 +2,9 @@ target_sources(tavrin_cli_lib PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/Cli.cpp
   ${CMAKE_CURRENT_LIST_DIR}/CommonOptions.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCommand.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ListJson.cpp
   ${CMAKE_CURRENT_LIST_DIR}/LoadedList.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/RenameCommand.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/RenameOptions.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/TerminalProgress.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Usage.cpp)

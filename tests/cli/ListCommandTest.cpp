@@ -1,6 +1,7 @@
 #include "cli/CommonOptions.h"
 #include "core/text/LocalizedStrings.h"
 #include "support/TempTree.h"
+#include "CliRunner.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -11,6 +12,9 @@
 #include <unistd.h>
 
 using namespace tavrin;
+using tavrin::test::CliRun;
+using tavrin::test::parseJson;
+using tavrin::test::runCli;
 
 namespace {
 
@@ -25,35 +29,6 @@ QStringList strs(std::initializer_list<const char*> texts)
     for (const char* text : texts)
         list.append(str(text));
     return list;
-}
-
-struct CliRun {
-    int exitCode = -1;
-    QString out;
-    QString err;
-};
-
-// Runs the real tavrin-cli, as a script would.
-CliRun runCli(const QStringList& arguments, const QString& workingFolder = QString(),
-    const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment())
-{
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    if (!workingFolder.isEmpty())
-        process.setWorkingDirectory(workingFolder);
-    process.start(QString::fromUtf8(TAVRIN_CLI_PATH), arguments);
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
-        return {};
-    return { process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-        QString::fromUtf8(process.readAllStandardError()) };
-}
-
-QJsonObject parseJson(const CliRun& run)
-{
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(run.out.toUtf8(), &error);
-    EXPECT_EQ(error.error, QJsonParseError::NoError) << run.out.toStdString();
-    return document.object();
 }
 
 // QTemporaryDir removes a tree through QString names and cannot reach a name that is not

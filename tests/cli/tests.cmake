@@ -1,3 +1,7 @@
 tavrin_add_test(test_cli_list SOURCES ${CMAKE_CURRENT_LIST_DIR}/ListCommandTest.cpp LIBS tavrin_cli_lib)
 target_compile_definitions(test_cli_list PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
 add_dependencies(test_cli_list tavrin-cli)
+
+tavrin_add_test(test_cli_rename SOURCES ${CMAKE_CURRENT_LIST_DIR}/RenameCommandTest.cpp)
+target_compile_definitions(test_cli_rename PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
+add_dependencies(test_cli_rename tavrin-cli)

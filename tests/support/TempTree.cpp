@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <fcntl.h>
+#include <filesystem>
 #include <stdexcept>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -15,6 +16,12 @@ TempTree::TempTree()
 {
     if (!m_dir.isValid())
         throw std::runtime_error("cannot make a temporary folder");
+}
+
+TempTree::~TempTree()
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(std::filesystem::path(QFile::encodeName(m_dir.path()).toStdString()), ignored);
 }
 
 QString TempTree::path(const QString& relative) const

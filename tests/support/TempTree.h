@@ -12,6 +12,10 @@ namespace tavrin::test {
 class TempTree {
 public:
     TempTree();
+    // Removes the tree byte by byte, also names that are not valid UTF-8.
+    ~TempTree();
+    TempTree(const TempTree&) = delete;
+    TempTree& operator=(const TempTree&) = delete;
 
     QString root() const { return m_dir.path(); }
     // Absolute path of a path relative to the root.

@@ -1,0 +1,257 @@
+#include "cli/RenameCommand.h"
+
+#include "cli/ListJson.h"
+#include "cli/LoadedList.h"
+#include "cli/RenameOptions.h"
+#include "cli/TerminalProgress.h"
+#include "cli/Usage.h"
+#include "core/engine/Pipeline.h"
+#include "core/engine/Validation.h"
+#include "core/list/StatusTexts.h"
+#include "core/profiles/Preferences.h"
+#include "core/profiles/Settings.h"
+#include "core/profiles/Tabs.h"
+#include "core/text/LocalizedStrings.h"
+
+#include <QJsonDocument>
+#include <QMap>
+#include <csignal>
+#include <cstdio>
+#include <unistd.h>
+
+namespace tavrin::cli {
+
+namespace {
+
+enum class Mode { Preview, Apply };
+
+std::atomic_bool interrupted{false};
+
+extern "C" void stopAfterCurrentItem(int)
+{
+    interrupted.store(true);
+}
+
+// Ctrl+C ends an apply after the current item, so the log is saved with what was renamed.
+class InterruptGuard {
+public:
+    InterruptGuard() { m_previous = std::signal(SIGINT, stopAfterCurrentItem); }
+    ~InterruptGuard() { std::signal(SIGINT, m_previous); }
+    InterruptGuard(const InterruptGuard&) = delete;
+    InterruptGuard& operator=(const InterruptGuard&) = delete;
+
+private:
+    void (*m_previous)(int) = nullptr;
+};
+
+const char* commandName(Mode mode)
+{
+    return mode == Mode::Preview ? "preview" : "apply";
+}
+
+// The options start at the empty profile, except that sub-folders follow --recursive.
+bool configureSettings(Settings& settings, const CommonOptions& common, const RenameOptions& extra, QString& error)
+{
+    settings.chooseFilesOrFolders(common.scan.folders ? 1 : 0);
+    settings.setIsIncludeSubFolders(common.scan.includeSubFolders);
+    settings.setSelectedTab(extra.tab.value_or(settings.selectedTab()));
+    for (const auto& [key, value] : extra.assignments) {
+        if (!Settings::isRadioIndexKey(key)) {
+            if (!settings.setOptionFromString(key, value, &error))
+                return false;
+            continue;
+        }
+        bool isNumber = false;
+        const int index = value.toInt(&isNumber);
+        if (!isNumber || !settings.chooseRadioOption(key, index)) {
+            error = localized("CLIBADRADIOINDEX").arg(value, key);
+            return false;
+        }
+    }
+    if (!actionForTab(settings.selectedTab())) {
+        error = localized("CLITABNOTAVAILABLE").arg(tabName(settings.selectedTab()));
+        return false;
+    }
+    return true;
+}
+
+QString summaryLine(const FileList& list)
+{
+    int proposals = 0;
+    QMap<QString, int> statuses;
+    for (const FileSystemItem& item : list.items()) {
+        if (status::isStatus(item.newFilename()))
+            ++statuses[item.newFilename()];
+        else if (!item.newFilename().isEmpty())
+            ++proposals;
+    }
+    QString line = localized("CLINEWNAMES").arg(proposals);
+    for (auto it = statuses.cbegin(); it != statuses.cend(); ++it)
+        line += QStringLiteral(", %1: %2").arg(it.key()).arg(it.value());
+    return line;
+}
+
+// One row per item: its name before the run, then its new name or status as shown.
+void printRows(const FileList& list, const QStringList& namesBefore, QTextStream& out)
+{
+    const QString newName = QString::fromLatin1(itemkeys::NewFilename);
+    const QString name = QString::fromLatin1(itemkeys::FilenameWithExtension);
+    for (int row = 0; row < list.size(); ++row) {
+        const FileSystemItem& item = list.at(row);
+        out << namesBefore.at(row) << '\t';
+        if (item.newFilename() == QLatin1String(status::RenamingOk))
+            out << item.displayField(name) << '\t';
+        out << item.displayField(newName) << '\n';
+    }
+}
+
+QStringList shownNames(const FileList& list)
+{
+    QStringList names;
+    names.reserve(list.size());
+    for (const FileSystemItem& item : list.items())
+        names << item.displayField(QString::fromLatin1(itemkeys::FilenameWithExtension));
+    return names;
+}
+
+bool confirmApply(bool yes, QTextStream& err)
+{
+    if (yes)
+        return true;
+    err << localized("ITEMRENAMINGMESSAGE") << " [" << localized("CLIYESLETTER") << '/'
+        << localized("CLINOLETTER") << "] " << Qt::flush;
+    char answer[64] = {};
+    if (!std::fgets(answer, sizeof answer, stdin))
+        return false;
+    const QString reply = QString::fromLocal8Bit(answer).trimmed().toLower();
+    return !reply.isEmpty()
+        && (reply.startsWith(QLatin1Char('y')) || reply.startsWith(localized("CLIYESLETTER").toLower()));
+}
+
+struct RunResult {
+    PreviewOutcome preview;
+    std::optional<ApplyOutcome> apply;
+};
+
+ApplyOutcome applyPreviewed(FileList& list, const OptionValues& values, const RenameOptions& extra,
+                            QTextStream& err)
+{
+    const QString logFolder = loadPreferences().defaultLogFolderPath;
+    const auto continueWithoutLog = [&] {
+        err << localized("LOGCREATEFAILED") << '\n';
+        if (!extra.continueWithoutLog)
+            err << localized("CLICONTINUEWITHOUTLOGHINT") << '\n';
+        return extra.continueWithoutLog;
+    };
+    const InterruptGuard guard;
+    interrupted.store(false);
+    TerminalProgress progress;
+    Pipeline pipeline(list, values);
+    return pipeline.applyRenames(logFolder, continueWithoutLog, interrupted, &progress);
+}
+
+void printResult(const LoadedList& loaded, const QStringList& namesBefore, const RunResult& result, bool json,
+                 QTextStream& out, QTextStream& err)
+{
+    if (json) {
+        QJsonObject root = listJson(loaded.list, loaded.skipped);
+        if (result.apply) {
+            root.insert(QStringLiteral("renamed"), result.apply->renamed);
+            root.insert(QStringLiteral("log"), result.apply->logPath.isEmpty() ? QJsonValue(QJsonValue::Null)
+                                                                               : QJsonValue(result.apply->logPath));
+        }
+        out << QJsonDocument(root).toJson(QJsonDocument::Indented);
+    } else {
+        printRows(loaded.list, namesBefore, out);
+        out << summaryLine(loaded.list);
+        if (result.apply)
+            out << ", " << localized("CLIRENAMED").arg(result.apply->renamed);
+        out << '\n';
+        if (result.apply && !result.apply->logPath.isEmpty())
+            out << localized("CLILOGWRITTEN").arg(result.apply->logPath) << '\n';
+    }
+    if (!result.preview.actionSucceeded && !result.preview.lastError.isEmpty())
+        err << result.preview.lastError << '\n';
+}
+
+int exitStatus(const LoadedList& loaded, const RunResult& result)
+{
+    const bool applyFailed = result.apply && (result.apply->failed > 0 || result.apply->aborted);
+    if (!loaded.missing.isEmpty() || !result.preview.actionSucceeded || applyFailed)
+        return kExitFailed;
+    return kExitDone;
+}
+
+bool parseArguments(Mode mode, const QStringList& arguments, CommonOptions& common, RenameOptions& extra,
+                    QString& error)
+{
+    if (!parseCommonOptions(arguments, common, error, &extra))
+        return false;
+    if (mode == Mode::Apply && !common.help && !extra.yes && ::isatty(STDIN_FILENO) != 1) {
+        error = localized("CLIAPPLYNEEDSYES");
+        return false;
+    }
+    return true;
+}
+
+int runRename(Mode mode, const QStringList& arguments, QTextStream& out, QTextStream& err)
+{
+    CommonOptions common;
+    RenameOptions extra;
+    QString error;
+    if (!parseArguments(mode, arguments, common, extra, error))
+        return reportUsageError(commandName(mode), error, err);
+    if (common.help) {
+        out << localized(mode == Mode::Preview ? "CLIPREVIEWUSAGE" : "CLIAPPLYUSAGE") << '\n';
+        return kExitDone;
+    }
+    Settings settings;
+    if (!configureSettings(settings, common, extra, error))
+        return reportUsageError(commandName(mode), error, err);
+    const int tab = settings.selectedTab();
+    if (const auto failure = validateAndNormalise(settings, tab)) {
+        err << localized(failure->titleKey.toLatin1().constData()) << ": "
+            << localized(failure->messageKey.toLatin1().constData()) << '\n';
+        return kExitBadUsage;
+    }
+
+    common.scan = ScanOptions{settings.isFolders(), settings.isIncludeSubFolders(), tab == tabs::FromFile};
+    LoadedList loaded = loadList(common);
+    reportProblems(loaded, !common.json, err);
+    // Apply works folder by folder in these modes; previewing in that order keeps the rows
+    // of the report in step with the renames.
+    if (mode == Mode::Apply && ((settings.isFolders() && settings.isIncludeSubFolders()) || tab == tabs::FromFile))
+        loaded.list.sortByFolderThenName();
+
+    const PropertyOptionValues values(settings);
+    RunResult result;
+    {
+        TerminalProgress progress;
+        const std::atomic_bool neverCancelled{false};
+        result.preview = Pipeline(loaded.list, values).preview(neverCancelled, &progress);
+    }
+    const QStringList namesBefore = shownNames(loaded.list);
+    if (mode == Mode::Apply && result.preview.hasFilesForRenaming) {
+        if (!confirmApply(extra.yes, err)) {
+            err << localized("CLIAPPLYDECLINED") << '\n';
+            return kExitDone;
+        }
+        result.apply = applyPreviewed(loaded.list, values, extra, err);
+    }
+    printResult(loaded, namesBefore, result, common.json, out, err);
+    return exitStatus(loaded, result);
+}
+
+}  // namespace
+
+int runPreviewCommand(const QStringList& arguments, QTextStream& out, QTextStream& err)
+{
+    return runRename(Mode::Preview, arguments, out, err);
+}
+
+int runApplyCommand(const QStringList& arguments, QTextStream& out, QTextStream& err)
+{
+    return runRename(Mode::Apply, arguments, out, err);
+}
+
+}  // namespace tavrin::cli

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "cli/CommonOptions.h"
+
+#include <QList>
+#include <QPair>
+#include <optional>
+
+namespace tavrin::cli {
+
+
+// The options preview and apply add to the shared ones.
+class RenameOptions final : public ExtraOptions {
+public:
+    Outcome takeOption(const QString& name, const TakeValue& takeValue, QString& error) override;
+
+    std::optional<int> tab;
+    QList<QPair<QString, QString>> assignments;  // --set KEY=VALUE, in the order given
+    bool yes = false;
+    bool continueWithoutLog = false;
+};
+
+}  // namespace tavrin::cli
