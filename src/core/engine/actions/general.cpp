@@ -1,0 +1,195 @@
+#include "core/engine/actions/general.h"
+
+#include "core/text/LocalizedStrings.h"
+#include "core/text/NameParts.h"
+#include "core/text/StringUtilities.h"
+
+#include <QStringView>
+#include <exception>
+#include <string_view>
+
+namespace tavrin {
+
+namespace {
+
+// What the tab's options mean once the texts are in the form the file system stores.
+struct GeneralInputs {
+    int optionIndex = 0;
+    int fileNameCase = 0;
+    QString changeExtension;
+    QString swapSeperator;
+    int swapPosition = 0;
+    QString removeAfterString;
+    int removeAfterOccurrence = 0;
+    QString removeFromString;
+    int removeFromOccurrence = 0;
+    QString windowsReplacement;
+    QString filenameMask;
+};
+
+// Windows refuses these in a name; they are replaced in this order, so a replacement
+// holding one of the later characters is itself replaced again.
+constexpr char16_t windowsForbiddenCharacters[] = u"/\\:*?\"<>|";
+
+// The file system keeps a slash the user typed as a colon.
+QString typedForName(const QString& text)
+{
+    return replaceString(text, QStringLiteral("/"), QStringLiteral(":"), 1, -1, false);
+}
+
+// In a rule chain an earlier step may already have proposed a name; work on that one.
+NameParts workingNameParts(const FileSystemItem& item)
+{
+    const QString proposed = item.newFilename();
+    if (!proposed.isEmpty())
+        return splitNameAndExtension(proposed);
+    return {item.filename(), item.fileExtension()};
+}
+
+QString capitalizedWord(QStringView word)
+{
+    const bool startsWithPair = word.size() >= 2 && word.at(0).isHighSurrogate() && word.at(1).isLowSurrogate();
+    const qsizetype first = startsWithPair ? 2 : 1;
+    return word.left(first).toString().toUpper() + word.mid(first).toString().toLower();
+}
+
+QString properCase(const QString& text)
+{
+    QString result;
+    result.reserve(text.size());
+    qsizetype start = 0;
+    while (start < text.size()) {
+        const bool isBlank = text.at(start).isSpace();
+        qsizetype end = start;
+        while (end < text.size() && text.at(end).isSpace() == isBlank)
+            ++end;
+        const QStringView run = QStringView(text).mid(start, end - start);
+        if (isBlank)
+            result += run;
+        else
+            result += capitalizedWord(run);
+        start = end;
+    }
+    return result;
+}
+
+// Right-aligns the name in a field as wide as the mask, padded on the left with the mask's
+// own characters; a longer name keeps only its last characters.
+QString maskedName(const QString& name, const QString& mask)
+{
+    if (mask.isEmpty())
+        return name;
+    if (mask.size() < name.size())
+        return name.right(mask.size());
+    return mask.left(mask.size() - name.size()) + name;
+}
+
+QString windowsCompatibleName(const QString& name, const QString& replacement)
+{
+    QString result = name;
+    for (const char16_t forbidden : std::u16string_view(windowsForbiddenCharacters))
+        result = replaceString(result, QString(QChar(forbidden)), replacement, 1, -1, false);
+    return result;
+}
+
+QString withoutSpaces(const QString& name)
+{
+    QString result = name;
+    result.remove(QLatin1Char(' '));
+    return result;
+}
+
+// Option 3 adds the new extension to files only, but the old extension is dropped for
+// every kind of record: a folder "x.y" becomes "x".
+QString transformedName(const QString& name, const GeneralInputs& in, bool isFile)
+{
+    switch (in.optionIndex) {
+    case generaloption::ConvertFilenameCase:
+        return convertLetterCase(name, in.fileNameCase);
+    case generaloption::ChangeExtension:
+        return isFile ? name + QLatin1Char('.') + in.changeExtension : name;
+    case generaloption::ReverseFilename:
+        return reverseString(name);
+    case generaloption::RemoveSpaces:
+        return withoutSpaces(name);
+    case generaloption::SwapBySeperator:
+        return swapStringBySeperator(name, in.swapSeperator);
+    case generaloption::SwapByPosition:
+        return swapStringByPosition(name, in.swapPosition);
+    case generaloption::RemoveAfterString:
+        return removeString(name, in.removeAfterString, in.removeAfterString, 1, in.removeAfterOccurrence, true);
+    case generaloption::RemoveFromString:
+        return removeString(name, in.removeFromString, QString(), 1, in.removeFromOccurrence, true);
+    case generaloption::FilenameMask:
+        return maskedName(name, in.filenameMask);
+    case generaloption::ConvertWindowsCompatible:
+        return windowsCompatibleName(name, in.windowsReplacement);
+    default:
+        return name;
+    }
+}
+
+bool dropsExtension(int optionIndex)
+{
+    return optionIndex == generaloption::RemoveExtension || optionIndex == generaloption::ChangeExtension;
+}
+
+QString proposedName(const FileSystemItem& item, const GeneralInputs& in, int extensionCase)
+{
+    const NameParts parts = workingNameParts(item);
+    const QString name = transformedName(parts.name, in, item.itemType() == ItemType::File);
+    const QString extension = in.optionIndex == generaloption::ConvertExtensionCase
+        ? convertLetterCase(parts.extension, extensionCase)
+        : parts.extension;
+    if (extension.isEmpty() || dropsExtension(in.optionIndex))
+        return name;
+    return name + QLatin1Char('.') + extension;
+}
+
+}  // namespace
+
+QString convertLetterCase(const QString& text, int caseCode)
+{
+    switch (caseCode) {
+    case lettercase::Upper:
+        return text.toUpper();
+    case lettercase::Lower:
+        return text.toLower();
+    case lettercase::Proper:
+        return properCase(text);
+    default:
+        return text;
+    }
+}
+
+bool renameByGeneral(FileSystemItem& item, int generalOptionIndex, int generalFileNameCase, int generalExtensionCase,
+                     const QString& generalChangeExtension, const QString& generalSwapSeperator,
+                     const QString& generalSwapPosition, const QString& generalRemoveAfterString,
+                     const QString& generalRemoveFromString, const QString& generalRemoveAfterStringOccurrence,
+                     const QString& generalRemoveFromStringOccurrence,
+                     const QString& generalConvertWindowsCompatibleString, const QString& generalFilenameMask,
+                     QString& error)
+{
+    try {
+        GeneralInputs in;
+        in.optionIndex = generalOptionIndex;
+        in.fileNameCase = generalFileNameCase;
+        in.changeExtension = typedForName(generalChangeExtension);
+        in.swapSeperator = typedForName(generalSwapSeperator);
+        in.swapPosition = toInteger(generalSwapPosition);
+        in.removeAfterString = typedForName(generalRemoveAfterString);
+        in.removeAfterOccurrence = toInteger(generalRemoveAfterStringOccurrence);
+        in.removeFromString = typedForName(generalRemoveFromString);
+        in.removeFromOccurrence = toInteger(generalRemoveFromStringOccurrence);
+        // Left as typed: a slash that ends up in the proposal becomes a colon where every
+        // proposed name is checked.
+        in.windowsReplacement = generalConvertWindowsCompatibleString;
+        in.filenameMask = typedForName(generalFilenameMask);
+        item.setObject(proposedName(item, in, generalExtensionCase), QLatin1String(itemkeys::NewFilename));
+    } catch (const std::exception& e) {
+        error = localized("UNABLETOGENERATENEWFILENAMEERROR").arg(QString::fromLocal8Bit(e.what()));
+    }
+    return error.isEmpty();
+}
+
+}  // namespace tavrin
