@@ -2,16 +2,28 @@
 
 #include "core/text/StringUtilities.h"
 
+#include <QMetaProperty>
 #include <QObject>
 
 namespace tavrin {
 
+PropertyOptionValues::PropertyOptionValues(const QObject& object)
+{
+    const QMetaObject* meta = object.metaObject();
+    for (int index = 0; index < meta->propertyCount(); ++index) {
+        const QMetaProperty property = meta->property(index);
+        m_values.insert(QByteArray(property.name()), property.read(&object));
+    }
+}
+
 QVariant PropertyOptionValues::value(const char* key) const
 {
-    const QVariant found = m_object.property(key);
-    if (!found.isValid())
+    const auto found = m_values.constFind(QByteArray::fromRawData(key, qstrlen(key)));
+    if (found == m_values.constEnd()) {
         qWarning("Unknown option key %s", key);
-    return found;
+        return {};
+    }
+    return *found;
 }
 
 QString PropertyOptionValues::text(const char* key) const

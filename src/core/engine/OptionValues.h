@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QByteArray>
+#include <QHash>
 #include <QString>
 #include <QVariant>
 
@@ -17,14 +19,12 @@ public:
     virtual bool boolean(const char* key) const = 0;
 };
 
-// Values read by key from the Qt properties of an object (the settings object): a boolean
-// property answers its value, a text property its integer conversion.
+// The Qt properties of an object (the settings object) as they are when this is made: a
+// boolean property answers its value, a text property its integer conversion. Taking them
+// once keeps a worker thread off the live object and keeps 100,000 lookups cheap.
 class PropertyOptionValues final : public OptionValues {
 public:
-    explicit PropertyOptionValues(const QObject& object)
-        : m_object(object)
-    {
-    }
+    explicit PropertyOptionValues(const QObject& object);
 
     QString text(const char* key) const override;
     int integer(const char* key) const override;
@@ -32,7 +32,7 @@ public:
 
 private:
     QVariant value(const char* key) const;
-    const QObject& m_object;
+    QHash<QByteArray, QVariant> m_values;
 };
 
 }  // namespace tavrin

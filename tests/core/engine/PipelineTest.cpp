@@ -45,12 +45,14 @@ protected:
 
     PreviewOutcome preview()
     {
+        const PropertyOptionValues values(settings);
         Pipeline pipeline(files, values);
         return pipeline.preview(noCancel, nullptr);
     }
 
     ApplyOutcome apply(const ContinueWithoutLog& goOn = nullptr)
     {
+        const PropertyOptionValues values(settings);
         Pipeline pipeline(files, values);
         return pipeline.applyRenames(logFolder, goOn, noCancel, nullptr);
     }
@@ -68,7 +70,6 @@ protected:
 
     test::TempTree tree;
     Settings settings;
-    PropertyOptionValues values{settings};
     FileList files;
     std::atomic_bool noCancel{false};
     QString logFolder;
@@ -230,6 +231,7 @@ TEST_F(PipelineTest, CancelKeepsWhatWasRenamedAndLogged)
     std::atomic_bool cancel{false};
     CancelOnFirstReport observer;
     observer.cancel = &cancel;
+    const PropertyOptionValues values(settings);
     Pipeline pipeline(files, values);
     const ApplyOutcome outcome = pipeline.applyRenames(logFolder, nullptr, cancel, &observer);
 
@@ -284,10 +286,138 @@ TEST_F(PipelineTest, ALimitedPreviewLeavesTheRestEmpty)
     tree.file(QStringLiteral("c.txt"));
     list({QStringLiteral("a.txt"), QStringLiteral("b.txt"), QStringLiteral("c.txt")});
     useGeneral(0, 1);
+    const PropertyOptionValues values(settings);
     Pipeline pipeline(files, values);
     pipeline.preview(noCancel, nullptr, 2);
     EXPECT_EQ(files.at(1).newFilename(), QStringLiteral("B.txt"));
     EXPECT_EQ(files.at(2).newFilename(), QString());
+}
+
+struct SequenceRunRow {
+    bool numeric;
+    bool restartInEachFolder;
+    // The proposals for f2/x, f1/x, f2/y and f1/y, listed in that order.
+    const char* expected[4];
+};
+
+TEST_F(PipelineTest, SequencesCountAcrossTheListOrRestartInEachFolder)
+{
+    const QStringList paths = {QStringLiteral("f2/x.txt"), QStringLiteral("f1/x.txt"), QStringLiteral("f2/y.txt"),
+                               QStringLiteral("f1/y.txt")};
+    for (const QString& path : paths)
+        tree.file(path);
+    const SequenceRunRow rows[] = {
+        // The list order is kept: one sequence over all four.
+        {true, false, {"1_x.txt", "2_x.txt", "3_y.txt", "4_y.txt"}},
+        // Grouped by folder, then by name, and counting from the start value in each folder.
+        {true, true, {"1_x.txt", "1_x.txt", "2_y.txt", "2_y.txt"}},
+        {false, false, {"b_x.txt", "c_x.txt", "d_y.txt", "e_y.txt"}},
+        {false, true, {"b_x.txt", "b_x.txt", "c_y.txt", "c_y.txt"}},
+    };
+    for (const SequenceRunRow& row : rows) {
+        files.clear();
+        list(paths);
+        settings.setProperty("selectedTab", tabs::AlphaNumeric);
+        settings.chooseNumericOrAlphabetic(row.numeric ? 0 : 1);
+        settings.setProperty("isAlphaNumericPrefix", true);
+        settings.setProperty("isAlphaNumericSeperator", true);
+        settings.setProperty("alphaNumericSeperator", QStringLiteral("_"));
+        settings.setProperty("alphaNumericNumericStartWith", QStringLiteral("1"));
+        settings.setProperty("alphaNumericAlphabeticStartWith", QStringLiteral("b"));
+        settings.setProperty("isAlphaNumericResetSequenceOnEachFolder", row.restartInEachFolder);
+        // A second preview starts the counters over: it proposes the same names.
+        for (int run = 0; run < 2; ++run) {
+            EXPECT_TRUE(preview().hasFilesForRenaming);
+            for (int i = 0; i < paths.size(); ++i) {
+                EXPECT_EQ(newNameOf(paths[i]), QString::fromUtf8(row.expected[i]))
+                    << qPrintable(paths[i]) << (row.numeric ? " numeric" : " alphabetic")
+                    << (row.restartInEachFolder ? " restarting" : "") << " run " << run;
+            }
+        }
+    }
+}
+
+TEST_F(PipelineTest, AMissingItemDoesNotUseUpASequenceValue)
+{
+    tree.file(QStringLiteral("a.txt"));
+    tree.file(QStringLiteral("b.txt"));
+    tree.file(QStringLiteral("c.txt"));
+    list({QStringLiteral("a.txt"), QStringLiteral("b.txt"), QStringLiteral("c.txt")});
+    QFile::remove(tree.path(QStringLiteral("b.txt")));
+    settings.setProperty("selectedTab", tabs::AlphaNumeric);
+    settings.setProperty("isAlphaNumericSufix", true);
+    settings.setProperty("alphaNumericPaddingMask", QStringLiteral("00"));
+
+    preview();
+
+    EXPECT_EQ(newNameOf(QStringLiteral("a.txt")), QStringLiteral("a00.txt"));
+    EXPECT_EQ(newNameOf(QStringLiteral("b.txt")), QLatin1String(status::FileNotFound));
+    EXPECT_EQ(newNameOf(QStringLiteral("c.txt")), QStringLiteral("c01.txt"));
+}
+
+struct ReplaceRemoveModeRow {
+    int mode;  // 0 replace, 1 remove, 2 remove characters, -1 none
+    bool allOccurrences;
+    const char* find;
+    const char* occurrence;
+    const char* count;
+    const char* expected;
+};
+
+TEST_F(PipelineTest, TheReplaceRemoveModesPassTheirOwnArguments)
+{
+    tree.file(QStringLiteral("a-b-c.txt"));
+    const ReplaceRemoveModeRow rows[] = {
+        {0, true, "-", "2", "0", "a+b+c.txt"},
+        {0, false, "-", "2", "1", "a-b+c.txt"},
+        // Rule steps store "-1" for every occurrence.
+        {0, false, "-", "1", "-1", "a+b+c.txt"},
+        // Removing ignores the replacement text.
+        {1, true, "-", "2", "0", "abc.txt"},
+        {1, false, "-", "1", "1", "ab-c.txt"},
+        {2, false, "a-", "2", "0", "bc.txt"},
+        {-1, false, "-", "1", "1", status::NoChanges},
+    };
+    for (const ReplaceRemoveModeRow& row : rows) {
+        files.clear();
+        list({QStringLiteral("a-b-c.txt")});
+        settings.setProperty("selectedTab", tabs::ReplaceRemove);
+        if (row.mode >= 0) {
+            settings.chooseReplaceRemoveMode(row.mode);
+        } else {
+            settings.setProperty("isReplaceRemoveReplace", false);
+            settings.setProperty("isReplaceRemoveRemove", false);
+            settings.setProperty("isReplaceRemoveRemoveCharacters", false);
+        }
+        settings.setProperty("isReplaceRemoveAllOccurrence", row.allOccurrences);
+        settings.setProperty("replaceRemoveThis", QString::fromUtf8(row.find));
+        settings.setProperty("replaceRemoveWith", QStringLiteral("+"));
+        settings.setProperty("replaceRemoveStartOnOccurrence", QString::fromUtf8(row.occurrence));
+        settings.setProperty("replaceRemoveOccuranceCount", QString::fromUtf8(row.count));
+        preview();
+        EXPECT_EQ(files.at(0).newFilename(), QString::fromUtf8(row.expected))
+            << "mode " << row.mode << " occurrence " << row.occurrence << " count " << row.count;
+    }
+}
+
+TEST_F(PipelineTest, TheInsertDeleteSwitchPicksTheAction)
+{
+    tree.file(QStringLiteral("a-b-c.txt"));
+    list({QStringLiteral("a-b-c.txt")});
+    settings.setProperty("selectedTab", tabs::InsertDelete);
+    settings.setProperty("insertDeleteInsert", QStringLiteral("X"));
+    settings.chooseInsertPosition(2);
+    settings.setProperty("insertDeleteAtCharacterPositions", QStringLiteral("2nd"));
+    settings.setProperty("insertDeleteInsertAtPostionDirection", 1);
+    settings.setProperty("insertDeleteFromCharacterPosition", QStringLiteral("1"));
+    settings.setProperty("insertDeleteNumberOfCharacters", QStringLiteral("2"));
+    settings.setProperty("isInsertDeleteDeleteFromBackWard", true);
+
+    preview();
+    EXPECT_EQ(files.at(0).newFilename(), QStringLiteral("a-b-Xc.txt"));
+    settings.chooseInsertOrDelete(1);
+    preview();
+    EXPECT_EQ(files.at(0).newFilename(), QStringLiteral("a-b.txt"));
 }
 
 struct ValidationRow {
@@ -343,6 +473,74 @@ TEST(Validation, SequenceStepsAreClamped)
     validateAndNormalise(settings, tabs::AlphaNumeric);
     EXPECT_EQ(settings.property("alphaNumericIncrementBy").toString(), QStringLiteral("26"));
     EXPECT_EQ(settings.property("alphaNumericAlphabeticStartWith").toString(), QStringLiteral("a"));
+}
+
+
+struct InsertValidationRow {
+    int insertOrDelete;  // 0 insert, 1 delete
+    int position;        // 0 beginning ... 4 after text
+    const char* text;
+    const char* before;
+    const char* after;
+    const char* titleKey;  // null: the options run
+    const char* focus;
+};
+
+TEST(Validation, InsertTextsAreRequiredOnlyWhereTheyAreUsed)
+{
+    const InsertValidationRow rows[] = {
+        {0, 0, "", "_", "_", "INSERTINVALIDINPUT", "insertDeleteInsert"},
+        {0, 3, "x", "", "_", "INSERTTEXTATBEFORETEXT", "insertDeleteInsertAtBeforeText"},
+        {0, 4, "x", "_", "", "INSERTTEXTATAFTERTEXT", "insertDeleteInsertAtAfterText"},
+        {0, 3, "x", "_", "", nullptr, nullptr},
+        {0, 2, "x", "", "", nullptr, nullptr},
+        {1, 3, "", "", "", nullptr, nullptr},
+    };
+    for (const InsertValidationRow& row : rows) {
+        Settings settings;
+        settings.chooseInsertOrDelete(row.insertOrDelete);
+        settings.chooseInsertPosition(row.position);
+        settings.setProperty("insertDeleteInsert", QString::fromUtf8(row.text));
+        settings.setProperty("insertDeleteInsertAtBeforeText", QString::fromUtf8(row.before));
+        settings.setProperty("insertDeleteInsertAtAfterText", QString::fromUtf8(row.after));
+        const auto failure = validateAndNormalise(settings, tabs::InsertDelete);
+        ASSERT_EQ(failure.has_value(), row.titleKey != nullptr) << row.position;
+        if (!failure)
+            continue;
+        EXPECT_EQ(failure->titleKey, QLatin1String(row.titleKey));
+        EXPECT_EQ(failure->messageKey, QLatin1String(row.position == 0 ? "ENTERVALIDVALUE" : "ENTERSOMETEXT"));
+        EXPECT_EQ(failure->focusOption, QLatin1String(row.focus));
+    }
+}
+
+TEST(Validation, EveryReplaceRemoveModeNeedsTheFindText)
+{
+    for (int mode = 0; mode < 3; ++mode) {
+        Settings settings;
+        settings.chooseReplaceRemoveMode(mode);
+        const auto failure = validateAndNormalise(settings, tabs::ReplaceRemove);
+        ASSERT_TRUE(failure.has_value()) << mode;
+        EXPECT_EQ(failure->messageKey, QStringLiteral("ENTERVALIDVALUE"));
+        settings.setProperty("replaceRemoveThis", QStringLiteral("-"));
+        EXPECT_FALSE(validateAndNormalise(settings, tabs::ReplaceRemove).has_value()) << mode;
+    }
+}
+
+TEST(Validation, OnlyLetterStepsHaveAnUpperBound)
+{
+    Settings settings;
+    settings.chooseNumericOrAlphabetic(0);
+    settings.setProperty("alphaNumericIncrementBy", QStringLiteral("500"));
+    settings.setProperty("alphaNumericAlphabeticStartWith", QString());
+    validateAndNormalise(settings, tabs::AlphaNumeric);
+    EXPECT_EQ(settings.property("alphaNumericIncrementBy").toString(), QStringLiteral("500"));
+    EXPECT_EQ(settings.property("alphaNumericAlphabeticStartWith").toString(), QString());
+
+    settings.chooseNumericOrAlphabetic(1);
+    settings.setProperty("alphaNumericDecrementBy", QStringLiteral("0"));
+    validateAndNormalise(settings, tabs::AlphaNumeric);
+    EXPECT_EQ(settings.property("alphaNumericIncrementBy").toString(), QStringLiteral("26"));
+    EXPECT_EQ(settings.property("alphaNumericDecrementBy").toString(), QStringLiteral("1"));
 }
 
 }  // namespace
