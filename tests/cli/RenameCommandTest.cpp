@@ -168,4 +168,33 @@ TEST_F(RenameCommandTest, ATakenNameIsReportedAndLeftAlone)
     EXPECT_EQ(tree.read(QStringLiteral("d/a.md")), QByteArray("theirs"));
 }
 
+TEST_F(RenameCommandTest, PreviewReplacesByTheOptionsOfTheReplaceRemoveTab)
+{
+    tree.file(QStringLiteral("d/a-b-c.txt"));
+    tree.file(QStringLiteral("d/plain.txt"));
+    const QStringList replaceAll = {QStringLiteral("--recursive"), QStringLiteral("--tab"),
+                                    QStringLiteral("replaceremove"), QStringLiteral("--set"),
+                                    QStringLiteral("replaceRemoveThis=-"), QStringLiteral("--set"),
+                                    QStringLiteral("replaceRemoveWith=_"), QStringLiteral("--set"),
+                                    QStringLiteral("isReplaceRemoveAllOccurrence=1")};
+
+    const CliRun preview = run(QStringLiteral("preview"), replaceAll);
+    EXPECT_EQ(preview.exitCode, 0) << preview.err.toStdString();
+    EXPECT_EQ(preview.out,
+              QStringLiteral("a-b-c.txt\ta_b_c.txt\nplain.txt\tNo Changes\nNew names: 1, No Changes: 1\n"));
+
+    // From the end, the last occurrence is the first one found.
+    const QStringList fromEndOnce = {QStringLiteral("--set"), QStringLiteral("isReplaceRemoveAllOccurrence=0"),
+                                     QStringLiteral("--set"), QStringLiteral("replaceRemovePositionDirection=1")};
+    const CliRun fromEnd = run(QStringLiteral("preview"), replaceAll + fromEndOnce);
+    EXPECT_EQ(fromEnd.exitCode, 0) << fromEnd.err.toStdString();
+    EXPECT_TRUE(fromEnd.out.startsWith(QStringLiteral("a-b-c.txt\ta-b_c.txt\n"))) << fromEnd.out.toStdString();
+
+    const CliRun missing = run(QStringLiteral("preview"),
+                               {QStringLiteral("--recursive"), QStringLiteral("--tab"),
+                                QStringLiteral("replaceremove")});
+    EXPECT_EQ(missing.exitCode, 2);
+    EXPECT_TRUE(missing.err.contains(QStringLiteral("Nothing to Find"))) << missing.err.toStdString();
+}
+
 }  // namespace

@@ -1,1 +1,4 @@
 tavrin_add_test(test_general_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/GeneralActionTest.cpp)
+tavrin_add_test(test_replaceremove_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/ReplaceRemoveActionTest.cpp)
+tavrin_add_test(test_insertdelete_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/InsertDeleteActionTest.cpp)
+tavrin_add_test(test_alphanumeric_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/AlphaNumericActionTest.cpp)
