@@ -1,5 +1,7 @@
 #include "core/engine/actions/general.h"
 
+#include "core/engine/actions/workingname.h"
+
 #include "core/text/LocalizedStrings.h"
 #include "core/text/NameParts.h"
 #include "core/text/StringUtilities.h"
@@ -35,15 +37,6 @@ constexpr char16_t windowsForbiddenCharacters[] = u"/\\:*?\"<>|";
 QString typedForName(const QString& text)
 {
     return replaceString(text, QStringLiteral("/"), QStringLiteral(":"), 1, -1, false);
-}
-
-// In a rule chain an earlier step may already have proposed a name; work on that one.
-NameParts workingNameParts(const FileSystemItem& item)
-{
-    const QString proposed = item.newFilename();
-    if (!proposed.isEmpty())
-        return splitNameAndExtension(proposed);
-    return {item.filename(), item.fileExtension()};
 }
 
 QString capitalizedWord(QStringView word)
