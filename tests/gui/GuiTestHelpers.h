@@ -1,10 +1,13 @@
 #pragma once
 
 #include "gui/app/TavrinAppController.h"
+#include "gui/ui/Prompter.h"
 
+#include <QApplication>
 #include <QByteArray>
 #include <QSignalSpy>
 #include <QStringList>
+#include <QThread>
 #include <unistd.h>
 
 namespace tavrin::test {
@@ -34,5 +37,36 @@ inline QStringList listedNames(const TavrinAppController& controller)
         names.append(item.filenameWithExtension());
     return names;
 }
+
+// Answers the window's questions as a test scripts them, and remembers what was asked and
+// on which thread.
+class ScriptedPrompter final : public Prompter {
+public:
+    bool confirmAnswer = true;
+    bool continueAnswer = false;
+
+    int confirmations = 0;
+    int logQuestions = 0;
+    bool logQuestionOnGuiThread = false;
+    QStringList warnings;  // "title|message"
+
+    bool confirmRename(QWidget*) override
+    {
+        ++confirmations;
+        return confirmAnswer;
+    }
+
+    bool continueWithoutLog(QWidget*) override
+    {
+        ++logQuestions;
+        logQuestionOnGuiThread = QThread::currentThread() == QApplication::instance()->thread();
+        return continueAnswer;
+    }
+
+    void warn(QWidget*, const QString& title, const QString& message) override
+    {
+        warnings.append(title + QLatin1Char('|') + message);
+    }
+};
 
 }  // namespace tavrin::test

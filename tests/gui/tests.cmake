@@ -3,3 +3,8 @@ tavrin_add_test(test_gui_file_table_model GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/
 tavrin_add_test(test_gui_item_icons GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/ItemIconCacheTest.cpp)
 tavrin_add_test(test_gui_attached_window GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/AttachedWindowTest.cpp)
 tavrin_add_test(test_gui_main_window GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/MainWindowTest.cpp)
+tavrin_add_test(test_gui_controller_rename GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/ControllerRenameTest.cpp)
+tavrin_add_test(test_gui_general_tab GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/GeneralTabTest.cpp)
+tavrin_add_test(test_gui_action_tabs GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/ActionTabsTest.cpp)
+tavrin_add_test(test_gui_message_box_prompter GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/MessageBoxPrompterTest.cpp)
+tavrin_add_test(test_gui_preview_apply GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/PreviewApplyTest.cpp)

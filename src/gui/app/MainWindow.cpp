@@ -3,6 +3,7 @@
 #include "core/list/FileSystemItem.h"
 #include "core/text/LocalizedStrings.h"
 #include "gui/app/TavrinAppController.h"
+#include "gui/engine/RenamePanel.h"
 #include "gui/list/FileTableModel.h"
 #include "gui/list/FileTableView.h"
 #include "gui/list/ListModeSelector.h"
@@ -158,8 +159,6 @@ void MainWindow::createToolBar()
     m_toolBar->addSeparator();
     m_toolBar->addAction(m_moveUpAction);
     m_toolBar->addAction(m_moveDownAction);
-    m_toolBar->addSeparator();
-    m_toolBar->addAction(m_cancelAction);
 
     auto* spacer = new QWidget(m_toolBar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -179,14 +178,17 @@ QWidget* MainWindow::createCentralArea()
     m_actionArea->setObjectName(QStringLiteral("actionArea"));
     auto* actionLayout = new QVBoxLayout(m_actionArea);
     actionLayout->setContentsMargins(0, 0, 0, 0);
+    m_renamePanel = new RenamePanel(m_controller, m_attached, m_cancelAction);
+    actionLayout->addWidget(m_renamePanel);
 
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->setObjectName(QStringLiteral("mainSplitter"));
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_table);
     splitter->addWidget(m_actionArea);
-    splitter->setStretchFactor(0, 3);
-    splitter->setStretchFactor(1, 2);
+    // A taller window gives the list more rows; the options keep the room they need.
+    splitter->setStretchFactor(0, 1);
+    splitter->setStretchFactor(1, 0);
 
     auto* central = new QWidget;
     auto* layout = new QVBoxLayout(central);
@@ -241,6 +243,8 @@ void MainWindow::connectController()
     connect(m_controller, &TavrinAppController::modeChanged, this, &MainWindow::modeChanged);
     connect(m_controller, &TavrinAppController::progressMessage, m_progressLabel, &ElidedLabel::setFullText);
     connect(m_controller, &TavrinAppController::foundCountChanged, m_countLabel, &QLabel::setText);
+    connect(m_controller, &TavrinAppController::renamedCountChanged, m_countLabel, &QLabel::setText);
+    connect(m_controller, &TavrinAppController::progressChanged, this, &MainWindow::showProgress);
     connect(m_controller, &TavrinAppController::lastActionTimeTakenChanged, m_timeLabel, &QLabel::setText);
     connect(m_controller, &TavrinAppController::nonUtf8NamesSkipped, this, &MainWindow::showSkippedNames);
 
@@ -396,6 +400,8 @@ void MainWindow::executingChanged(bool executing)
     m_modeSelector->setEnabled(!executing);
     m_table->setEnabled(!executing);
     m_busyIndicator->setVisible(executing);
+    // Busy until the operation says how far it has come.
+    m_busyIndicator->setRange(0, 0);
     m_table->setEmptyHint(executing ? QString() : localized("EMPTYLISTHINT"));
     if (executing) {
         m_skippedLabel->hide();
@@ -404,6 +410,12 @@ void MainWindow::executingChanged(bool executing)
         m_table->setFocus();
     }
     updateMoveActions();
+}
+
+void MainWindow::showProgress(int done, int total)
+{
+    m_busyIndicator->setRange(0, total);
+    m_busyIndicator->setValue(done);
 }
 
 void MainWindow::listChanged()

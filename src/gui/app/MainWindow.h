@@ -17,6 +17,7 @@ class ElidedLabel;
 class FileTableModel;
 class FileTableView;
 class ListModeSelector;
+class RenamePanel;
 class TavrinAppController;
 
 // The one window: the list of items with its toolbar and status line above, and below
@@ -29,8 +30,9 @@ public:
 
     FileTableView* tableView() const { return m_table; }
     FileTableModel* tableModel() const { return m_model; }
-    // Empty for now: the home of the action tabs and of Preview and Apply.
+    // Below the table: the action tabs with Preview and Apply.
     QWidget* actionArea() const { return m_actionArea; }
+    RenamePanel* renamePanel() const { return m_renamePanel; }
 
     // Lists the paths in the current mode, off the GUI thread.
     void addPaths(const QStringList& paths);
@@ -62,6 +64,7 @@ private:
     void clearSortIndicator();
 
     void executingChanged(bool executing);
+    void showProgress(int done, int total);
     void listChanged();
     void modeChanged();
     void updateAddActions();
@@ -73,6 +76,7 @@ private:
     FileTableModel* m_model;
     FileTableView* m_table = nullptr;
     QWidget* m_actionArea = nullptr;
+    RenamePanel* m_renamePanel = nullptr;
     QToolBar* m_toolBar = nullptr;
     ListModeSelector* m_modeSelector = nullptr;
     AttachedWindow* m_attached;

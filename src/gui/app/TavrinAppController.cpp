@@ -1,12 +1,16 @@
 #include "gui/app/TavrinAppController.h"
 
+#include "core/profiles/Preferences.h"
 #include "core/text/LocalizedStrings.h"
 
 #include <QDateTime>
 #include <QDebug>
 #include <QLocale>
+#include <QMetaProperty>
 #include <QThread>
+#include <chrono>
 #include <exception>
+#include <future>
 
 namespace tavrin {
 
@@ -22,11 +26,30 @@ QString formattedCount(int count)
     return QLocale().toString(count);
 }
 
+void copyOptions(const Settings& from, Settings& to)
+{
+    const QMetaObject& meta = Settings::staticMetaObject;
+    for (int index = meta.propertyOffset(); index < meta.propertyCount(); ++index) {
+        const QMetaProperty property = meta.property(index);
+        property.write(&to, property.read(&from));
+    }
+}
+
+void logFailure(const char* operation, const std::exception& error)
+{
+    qWarning().noquote() << QStringLiteral("Error in %1 : %2")
+                                .arg(QString::fromLatin1(operation), QString::fromLocal8Bit(error.what()));
+}
+
 }  // namespace
 
 TavrinAppController::TavrinAppController(QObject* parent)
     : QObject(parent)
+    , m_logFolderPath(Preferences::defaults().defaultLogFolderPath)
 {
+    m_settings.resetToStartValues();
+    connect(&m_settings, &Settings::isFoldersChanged, this, &TavrinAppController::modeSettingChanged);
+    connect(&m_settings, &Settings::isIncludeSubFoldersChanged, this, &TavrinAppController::modeChanged);
 }
 
 TavrinAppController::~TavrinAppController()
@@ -41,35 +64,36 @@ const std::vector<FileSystemItem>& TavrinAppController::shownItems() const
 
 QString TavrinAppController::countText() const
 {
-    return localized(m_isFolders ? "TOTALFOLDERSSELECTED" : "TOTALFILESSELECTED").arg(formattedCount(shownCount()));
+    return localized(isFolders() ? "TOTALFOLDERSSELECTED" : "TOTALFILESSELECTED")
+        .arg(formattedCount(shownCount()));
 }
 
 QString TavrinAppController::foundCountText(int found) const
 {
-    return localized(m_isFolders ? "TOTALFOLDERSFOUND" : "TOTALFILESFOUND").arg(formattedCount(found));
+    return localized(isFolders() ? "TOTALFOLDERSFOUND" : "TOTALFILESFOUND").arg(formattedCount(found));
 }
 
 QString TavrinAppController::modeWordText() const
 {
-    return localized(m_isFolders ? "FOLDERS" : "FILES");
+    return localized(isFolders() ? "FOLDERS" : "FILES");
 }
 
 void TavrinAppController::setMode(ListMode mode)
 {
-    const bool files = mode == ListMode::Files;
-    if (m_isExecuting || files == m_isFiles)
-        return;
-    m_isFiles = files;
-    m_isFolders = !files;
-    clear();
-    emit modeChanged();
+    if (!m_isExecuting)
+        m_settings.chooseFilesOrFolders(mode == ListMode::Files ? 0 : 1);
 }
 
 void TavrinAppController::setIncludeSubFolders(bool include)
 {
-    if (m_isExecuting || include == m_isIncludeSubFolders)
-        return;
-    m_isIncludeSubFolders = include;
+    if (!m_isExecuting)
+        m_settings.setIsIncludeSubFolders(include);
+}
+
+// The records of one mode mean nothing in the other, whoever changed the mode.
+void TavrinAppController::modeSettingChanged()
+{
+    clear();
     emit modeChanged();
 }
 
@@ -77,21 +101,67 @@ bool TavrinAppController::addFiles(const QStringList& paths)
 {
     if (m_isExecuting || paths.isEmpty())
         return false;
-    m_cancel = false;
     m_scanResult = ScanResult();
     m_lastSkippedPaths.clear();
-    // The worker appends to the list itself; the table keeps showing this copy meanwhile.
+    emit foundCountChanged(foundCountText(0));
+    const ScanOptions options{isFolders(), isIncludeSubFolders(), false};
+    startWorker(localized("LOADINGMESSAGE").arg(modeWordText()),
+                [this, paths, options] { runScan(paths, options); }, &TavrinAppController::finishAddFiles);
+    return true;
+}
+
+std::optional<ValidationFailure> TavrinAppController::preview()
+{
+    if (m_isExecuting || m_files.isEmpty())
+        return std::nullopt;
+    if (std::optional<ValidationFailure> failure = validateAndNormalise(m_settings, m_settings.selectedTab()))
+        return failure;
+    copyOptions(m_settings, m_workerSettings);
+    m_previewOutcome = PreviewOutcome();
+    startWorker(localized("GENERATINGPREVIEWPLEASEWAIT"), [this] { runPreview(); },
+                &TavrinAppController::finishPreview);
+    return std::nullopt;
+}
+
+bool TavrinAppController::apply(const ContinueWithoutLogQuestion& continueWithoutLog)
+{
+    if (m_isExecuting || !m_isHasFilesForRenaming)
+        return false;
+    copyOptions(m_settings, m_workerSettings);
+    m_applyOutcome = ApplyOutcome();
+    setHasFilesForRenaming(false);
+    startWorker(
+        localized("RENAMINGITEMSPLEASEWAIT").arg(modeWordText()),
+        [this, folder = m_logFolderPath, continueWithoutLog] { runApply(folder, continueWithoutLog); },
+        &TavrinAppController::finishApply);
+    return true;
+}
+
+// While the worker runs, the table keeps showing a copy of the list taken here.
+void TavrinAppController::startWorker(
+    const QString& message, std::function<void()> work, void (TavrinAppController::*finish)())
+{
+    m_cancel = false;
     m_snapshot = m_files.items();
     setExecuting(true);
     m_startTime = m_endTime = secondsSinceEpoch();
-    emit progressMessage(localized("LOADINGMESSAGE").arg(modeWordText()));
-    emit foundCountChanged(foundCountText(0));
-
-    const ScanOptions options{m_isFolders, m_isIncludeSubFolders, false};
-    m_worker.reset(QThread::create([this, paths, options] { runScan(paths, options); }));
-    connect(m_worker.get(), &QThread::finished, this, &TavrinAppController::finishAddFiles);
+    emit progressMessage(message);
+    m_worker.reset(QThread::create(std::move(work)));
+    connect(m_worker.get(), &QThread::finished, this, finish);
     m_worker->start();
-    return true;
+}
+
+// Back on the GUI thread once the worker is done: the table shows the list itself again.
+void TavrinAppController::endWorker()
+{
+    m_worker->wait();
+    m_worker.reset();
+    emit listAboutToChange();
+    m_isExecuting = false;
+    m_snapshot = std::vector<FileSystemItem>();
+    emit listChanged();
+    emit executingChanged(false);
+    emit progressMessage(QString());
 }
 
 // On the worker thread.
@@ -100,41 +170,120 @@ void TavrinAppController::runScan(const QStringList& paths, const ScanOptions& o
     try {
         m_scanResult = m_files.addFiles(paths, options, m_cancel, this);
     } catch (const std::exception& error) {
-        qWarning().noquote() << QStringLiteral("Error in addFiles : %1").arg(QString::fromLocal8Bit(error.what()));
+        logFailure("addFiles", error);
     }
+}
+
+// On the worker thread.
+void TavrinAppController::runPreview()
+{
+    try {
+        const PropertyOptionValues values(m_workerSettings);
+        Pipeline pipeline(m_files, values);
+        m_previewOutcome = pipeline.preview(m_cancel, this);
+    } catch (const std::exception& error) {
+        logFailure("doPreview", error);
+    }
+}
+
+// On the worker thread.
+void TavrinAppController::runApply(
+    const QString& logFolder, const ContinueWithoutLogQuestion& continueWithoutLog)
+{
+    try {
+        const PropertyOptionValues values(m_workerSettings);
+        Pipeline pipeline(m_files, values);
+        m_applyOutcome = pipeline.applyRenames(
+            logFolder, [this, &continueWithoutLog] { return askOnGuiThread(continueWithoutLog); }, m_cancel,
+            this);
+    } catch (const std::exception& error) {
+        logFailure("doApply", error);
+    }
+}
+
+// On the worker thread: the question is a dialog, so it is asked on the GUI thread while
+// the worker waits. A cancel also ends the wait, so that closing the window while the
+// question is on its way cannot leave the worker waiting for an answer that never comes;
+// and a cancel always means no renames, whatever the answer.
+bool TavrinAppController::askOnGuiThread(const ContinueWithoutLogQuestion& question)
+{
+    if (!question)
+        return false;
+    auto answer = std::make_shared<std::promise<bool>>();
+    std::future<bool> answered = answer->get_future();
+    QMetaObject::invokeMethod(
+        this, [question, answer] { answer->set_value(question()); }, Qt::QueuedConnection);
+    while (answered.wait_for(std::chrono::milliseconds(50)) != std::future_status::ready) {
+        if (m_cancel.load())
+            return false;
+    }
+    return answered.get() && !m_cancel.load();
 }
 
 // On the worker thread; the core already limits these to a few dozen a second.
 void TavrinAppController::progress(const Progress& progress)
 {
-    QMetaObject::invokeMethod(
-        this, [this, path = progress.path, found = progress.done] { reportScanProgress(path, found); },
-        Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, [this, progress] { reportProgress(progress); }, Qt::QueuedConnection);
 }
 
-void TavrinAppController::reportScanProgress(const QString& path, int found)
+void TavrinAppController::reportProgress(const Progress& progress)
 {
     if (!m_isExecuting)
         return;
-    emit progressMessage(getDisplayFilePath(path));
-    emit foundCountChanged(foundCountText(found));
+    if (!progress.path.isEmpty())
+        emit progressMessage(getDisplayFilePath(progress.path));
+    // A scan cannot know how much it will find; a preview and an apply know the list.
+    if (progress.total < 0)
+        emit foundCountChanged(foundCountText(progress.done));
+    else
+        emit progressChanged(progress.done, progress.total);
 }
 
 void TavrinAppController::finishAddFiles()
 {
-    m_worker->wait();
-    m_worker.reset();
     m_lastSkippedPaths = m_scanResult.skipped;
-    emit listAboutToChange();
-    m_isExecuting = false;
-    m_snapshot = std::vector<FileSystemItem>();
-    emit listChanged();
-    emit executingChanged(false);
-    emit progressMessage(QString());
+    endWorker();
     showLastActionTimeTaken("LOADINGTIME");
     if (!m_lastSkippedPaths.isEmpty())
         emit nonUtf8NamesSkipped(m_lastSkippedPaths);
     emit addFinished();
+}
+
+void TavrinAppController::finishPreview()
+{
+    endWorker();
+    showLastActionTimeTaken("PREVIEWTIME");
+    setHasFilesForRenaming(m_previewOutcome.hasFilesForRenaming);
+    if (!m_previewOutcome.actionSucceeded)
+        emit progressMessage(m_previewOutcome.lastError);
+    emit previewFinished();
+}
+
+void TavrinAppController::finishApply()
+{
+    endWorker();
+    showLastActionTimeTaken("RENAMINGTIME");
+    emit renamedCountChanged(renamedCountText());
+    emit progressMessage(logLocationText());
+    emit applyFinished();
+}
+
+QString TavrinAppController::renamedCountText() const
+{
+    QString text = localized(isFolders() ? "TOTALNOSFOLDERSRENAMED" : "TOTALNOSFILESRENAMED")
+                       .arg(formattedCount(m_applyOutcome.renamed));
+    if (m_applyOutcome.failed > 0)
+        text += QLatin1Char(' ') + localized("NOTRENAMEDCOUNT").arg(formattedCount(m_applyOutcome.failed));
+    return text;
+}
+
+QString TavrinAppController::logLocationText() const
+{
+    if (m_applyOutcome.aborted)
+        return localized("RENAMINGABORTEDNOLOG");
+    if (m_applyOutcome.logPath.isEmpty())
+        return localized("LOGNOTWRITTEN");
+    return localized("LOGSAVEDAT").arg(getDisplayFilePath(m_applyOutcome.logPath));
 }
 
 void TavrinAppController::cancelProcess()
@@ -146,6 +295,14 @@ void TavrinAppController::setExecuting(bool executing)
 {
     m_isExecuting = executing;
     emit executingChanged(executing);
+}
+
+void TavrinAppController::setHasFilesForRenaming(bool hasFiles)
+{
+    if (hasFiles == m_isHasFilesForRenaming)
+        return;
+    m_isHasFilesForRenaming = hasFiles;
+    emit hasFilesForRenamingChanged(hasFiles);
 }
 
 void TavrinAppController::stopWorker()
@@ -174,6 +331,8 @@ void TavrinAppController::clear()
     m_files.clear();
     m_lastSkippedPaths.clear();
     emit listChanged();
+    setHasFilesForRenaming(false);
+    emit progressMessage(QString());
     m_lastActionTimeTaken.clear();
     emit lastActionTimeTakenChanged(m_lastActionTimeTaken);
 }
@@ -210,8 +369,7 @@ void TavrinAppController::sort(const SortKey& key)
 void TavrinAppController::showLastActionTimeTaken(const char* key)
 {
     m_endTime = secondsSinceEpoch();
-    const QString seconds = QLocale().toString(m_endTime - m_startTime, 'f', 2);
-    m_lastActionTimeTaken = localized("TIMETAKEN").arg(seconds, localized(key));
+    m_lastActionTimeTaken = timeTakenText(m_endTime - m_startTime, key);
     emit lastActionTimeTakenChanged(m_lastActionTimeTaken);
 }
 

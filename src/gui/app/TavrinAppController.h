@@ -1,13 +1,18 @@
 #pragma once
 
+#include "core/engine/Pipeline.h"
+#include "core/engine/Validation.h"
 #include "core/list/FileList.h"
 #include "core/list/Progress.h"
+#include "core/profiles/Settings.h"
 
 #include <QObject>
 #include <QString>
 #include <QStringList>
 #include <atomic>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QThread;
@@ -16,14 +21,19 @@ namespace tavrin {
 
 enum class ListMode { Files, Folders };
 
-// Owns the file list and the list mode, runs long work on a worker thread and reports it
-// back by queued calls: the one place where threads meet widgets. While a worker runs,
-// only the worker touches the list; the window reads shownItems(), a copy taken when the
-// worker started, and keeps every control that changes the list disabled.
+// Owns the file list and the settings, runs long work (scans, previews, applies) on a
+// worker thread and reports it back by queued calls: the one place where threads meet
+// widgets. While a worker runs, only the worker touches the list; the window reads
+// shownItems(), a copy taken when the worker started, and keeps every control that
+// changes the list or the options disabled.
 class TavrinAppController : public QObject, private ProgressObserver {
     Q_OBJECT
 
 public:
+    // Asked on the GUI thread while an apply waits for the answer: true renames without a
+    // usable log, false ends the apply before any rename.
+    using ContinueWithoutLogQuestion = std::function<bool()>;
+
     explicit TavrinAppController(QObject* parent = nullptr);
     ~TavrinAppController() override;
 
@@ -31,10 +41,20 @@ public:
     const std::vector<FileSystemItem>& shownItems() const;
     int shownCount() const { return static_cast<int>(shownItems().size()); }
 
-    bool isFiles() const { return m_isFiles; }
-    bool isFolders() const { return m_isFolders; }
-    bool isIncludeSubFolders() const { return m_isIncludeSubFolders; }
+    // Every option value, the list mode and the selected tab among them.
+    Settings& settings() { return m_settings; }
+    const Settings& settings() const { return m_settings; }
+
+    bool isFiles() const { return m_settings.isFiles(); }
+    bool isFolders() const { return m_settings.isFolders(); }
+    bool isIncludeSubFolders() const { return m_settings.isIncludeSubFolders(); }
     bool isExecuting() const { return m_isExecuting; }
+    // The last preview left at least one proposed name, and no apply or clear came since.
+    bool isHasFilesForRenaming() const { return m_isHasFilesForRenaming; }
+
+    // Where apply writes its logs: the preference "defaultLogFolderPath".
+    const QString& logFolderPath() const { return m_logFolderPath; }
+    void setLogFolderPath(const QString& path) { m_logFolderPath = path; }
 
     // Seconds since 1970 at the start and the end of the last operation.
     double startTime() const { return m_startTime; }
@@ -43,6 +63,8 @@ public:
     const QString& lastActionTimeTaken() const { return m_lastActionTimeTaken; }
     // Paths the last scan left out because their names are not valid UTF-8.
     const QStringList& lastSkippedPaths() const { return m_lastSkippedPaths; }
+    const PreviewOutcome& lastPreviewOutcome() const { return m_previewOutcome; }
+    const ApplyOutcome& lastApplyOutcome() const { return m_applyOutcome; }
 
     // "Files listed: n" or "Folders listed: n", by mode.
     QString countText() const;
@@ -54,6 +76,14 @@ public:
     // Scans the paths on a worker thread in the current mode; false (and nothing
     // happens) while another operation runs or when there is no path.
     bool addFiles(const QStringList& paths);
+
+    // Normalises the options of the selected tab and, when they can run, proposes the new
+    // names on a worker thread. Answers why the options cannot run, with nothing started.
+    // Does nothing while executing or with an empty list.
+    std::optional<ValidationFailure> preview();
+    // Renames every record that holds a proposal, on a worker thread; false (and nothing
+    // happens) while executing or when the last preview proposed nothing.
+    bool apply(const ContinueWithoutLogQuestion& continueWithoutLog);
     void cancelProcess();
 
     // The list operations do nothing while executing.
@@ -70,11 +100,17 @@ public:
 signals:
     void executingChanged(bool executing);
     void modeChanged();
-    // A line for the progress area: what the operation does, then the path it is at.
+    void hasFilesForRenamingChanged(bool hasFiles);
+    // A line for the progress area: what the operation does, then the path it is at; after
+    // an operation, what the user should know about its end (an action's error, the log).
     void progressMessage(const QString& text);
     // The running count of an add: "Files found: n".
     void foundCountChanged(const QString& text);
-    // Around a change that replaces the rows (add, remove, clear, sort).
+    // How far a preview or an apply has come through the list.
+    void progressChanged(int done, int total);
+    // The count line at the end of an apply: "Files renamed: n".
+    void renamedCountChanged(const QString& text);
+    // Around a change that replaces the rows (add, remove, clear, sort, preview, apply).
     void listAboutToChange();
     void listChanged();
     // Around a move: the same rows in another order.
@@ -84,30 +120,49 @@ signals:
     // Emitted once at the end of a scan that left names out.
     void nonUtf8NamesSkipped(const QStringList& paths);
     void addFinished();
+    void previewFinished();
+    void applyFinished();
 
 private:
     void progress(const Progress& progress) override;
-    void reportScanProgress(const QString& path, int found);
+    void reportProgress(const Progress& progress);
+    void startWorker(
+        const QString& message, std::function<void()> work, void (TavrinAppController::*finish)());
+    void endWorker();
     void runScan(const QStringList& paths, const ScanOptions& options);
+    void runPreview();
+    void runApply(const QString& logFolder, const ContinueWithoutLogQuestion& continueWithoutLog);
+    bool askOnGuiThread(const ContinueWithoutLogQuestion& question);
     void finishAddFiles();
+    void finishPreview();
+    void finishApply();
+    void modeSettingChanged();
     void setExecuting(bool executing);
+    void setHasFilesForRenaming(bool hasFiles);
     void stopWorker();
     QString foundCountText(int found) const;
+    QString renamedCountText() const;
+    QString logLocationText() const;
     QString modeWordText() const;
 
     FileList m_files;
+    Settings m_settings;
+    // The options a preview or an apply runs with: a copy, so that the worker never reads
+    // what the GUI thread writes.
+    Settings m_workerSettings;
     std::vector<FileSystemItem> m_snapshot;
     std::unique_ptr<QThread> m_worker;
     std::atomic_bool m_cancel = false;
     ScanResult m_scanResult;
+    PreviewOutcome m_previewOutcome;
+    ApplyOutcome m_applyOutcome;
     QStringList m_lastSkippedPaths;
     QString m_lastActionTimeTaken;
+    QString m_logFolderPath;
     double m_startTime = 0;
     double m_endTime = 0;
-    bool m_isFiles = true;
-    bool m_isFolders = false;
-    bool m_isIncludeSubFolders = false;
     bool m_isExecuting = false;
+    bool m_isHasFilesForRenaming = false;
 };
 
 }  // namespace tavrin

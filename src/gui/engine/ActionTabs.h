@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QTabWidget>
+
+namespace tavrin {
+
+class ActionTab;
+class Settings;
+
+// The renaming actions, one page each. Every page carries the number of its tab
+// (tabs::General ...), which is what "selectedTab" holds, so the pages can come in any
+// order and the setting always names the visible one.
+class ActionTabs : public QTabWidget {
+    Q_OBJECT
+
+public:
+    explicit ActionTabs(Settings& settings, QWidget* parent = nullptr);
+
+    void addActionTab(ActionTab* page, int tabNumber, const QString& title);
+
+    // The page of a tab number, or null when it has none.
+    ActionTab* pageForTab(int tabNumber) const;
+    ActionTab* currentActionTab() const;
+
+private:
+    void currentPageChanged(int index);
+    void showSelectedTab();
+
+    Settings& m_settings;
+};
+
+} // namespace tavrin

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "gui/engine/ActionTab.h"
+
+#include <QHash>
+#include <QList>
+
+class QButtonGroup;
+class QComboBox;
+class QGridLayout;
+class QLineEdit;
+
+namespace tavrin {
+
+class Settings;
+
+// The general action's tab: twelve one-step changes of a name, one chosen at a time, each
+// with the inputs it needs beside it. Widgets and settings mirror each other both ways:
+// a choice or an edit sets the option at once, and a change of the settings from
+// elsewhere (a profile, validation) shows in the widgets.
+class GeneralTab : public ActionTab {
+    Q_OBJECT
+
+public:
+    explicit GeneralTab(Settings& settings, QWidget* parent = nullptr);
+
+    QWidget* fieldForOption(const QString& optionKey) const override;
+
+private:
+    void buildLayout();
+    QComboBox* makeCaseChooser(const char* optionKey);
+    QLineEdit* makeTextField(const char* optionKey, const char* placeholderKey, int width);
+    QLineEdit* makeNumberField(const char* optionKey);
+    void addOption(int index, const char* labelKey, const char* toolTipKey, const QList<QWidget*>& inputs);
+    void refreshFromSettings();
+    void refreshField(const QString& optionKey, QWidget* field);
+
+    Settings& m_settings;
+    QButtonGroup* m_options;
+    QGridLayout* m_grid = nullptr;
+    QHash<QString, QWidget*> m_fields;
+    QHash<int, QList<QWidget*>> m_inputsOfOption;
+};
+
+} // namespace tavrin

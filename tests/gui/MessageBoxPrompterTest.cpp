@@ -1,0 +1,116 @@
+#include "gui/ui/MessageBoxPrompter.h"
+
+#include "core/text/LocalizedStrings.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <gtest/gtest.h>
+
+using namespace tavrin;
+
+namespace {
+
+// What a message box showed before the test answered it.
+struct Shown {
+    QString title;
+    QString text;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QStringList buttons;
+    QString defaultButton;
+};
+
+// Waits (in the running dialog's own event loop) for the next message box, notes what it
+// shows and answers it by clicking the button with the given text, or with Esc when the
+// text is empty.
+void answerNextBox(const QString& buttonText, Shown& shown)
+{
+    QTimer::singleShot(0, [buttonText, &shown] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) {
+            answerNextBox(buttonText, shown);
+            return;
+        }
+        shown.title = box->windowTitle();
+        shown.text = box->text();
+        shown.icon = box->icon();
+        for (QAbstractButton* button : box->buttons())
+            shown.buttons.append(button->text());
+        if (box->defaultButton())
+            shown.defaultButton = box->defaultButton()->text();
+        if (buttonText.isEmpty()) {
+            QTest::keyClick(box, Qt::Key_Escape);
+            return;
+        }
+        for (QAbstractButton* button : box->buttons()) {
+            if (button->text() == buttonText) {
+                button->click();
+                return;
+            }
+        }
+        ADD_FAILURE() << "no button " << buttonText.toStdString();
+        box->reject();
+    });
+}
+
+struct QuestionRow {
+    const char* name;
+    std::function<bool(MessageBoxPrompter&)> ask;
+    const char* messageKey;
+    const char* acceptKey;
+    const char* rejectKey;
+};
+
+const QuestionRow kQuestions[] = {
+    { "rename", [](MessageBoxPrompter& p) { return p.confirmRename(nullptr); }, "ITEMRENAMINGMESSAGE", "YES",
+        "NO" },
+    { "log", [](MessageBoxPrompter& p) { return p.continueWithoutLog(nullptr); }, "LOGCREATEFAILED",
+        "CONTINUE", "ABORT" },
+};
+
+TEST(MessageBoxPrompter, QuestionsUseTheTextsOfTheTablesAndDefaultToGoingOn)
+{
+    for (const QuestionRow& row : kQuestions) {
+        for (const bool accept : { true, false }) {
+            MessageBoxPrompter prompter;
+            Shown shown;
+            answerNextBox(localized(accept ? row.acceptKey : row.rejectKey), shown);
+            EXPECT_EQ(row.ask(prompter), accept) << row.name;
+            EXPECT_EQ(shown.title, localized("ITEMRENAMINGTITLE")) << row.name;
+            EXPECT_EQ(shown.text, localized(row.messageKey)) << row.name;
+            EXPECT_EQ(shown.buttons.size(), 2) << row.name;
+            EXPECT_TRUE(shown.buttons.contains(localized(row.acceptKey))) << row.name;
+            EXPECT_TRUE(shown.buttons.contains(localized(row.rejectKey))) << row.name;
+            EXPECT_EQ(shown.defaultButton, localized(row.acceptKey)) << row.name;
+        }
+    }
+}
+
+TEST(MessageBoxPrompter, EscapeNeverGoesOn)
+{
+    for (const QuestionRow& row : kQuestions) {
+        MessageBoxPrompter prompter;
+        Shown shown;
+        answerNextBox(QString(), shown);
+        EXPECT_FALSE(row.ask(prompter)) << row.name;
+        EXPECT_FALSE(shown.buttons.isEmpty()) << row.name;
+    }
+}
+
+TEST(MessageBoxPrompter, AWarningHasOneOkButton)
+{
+    MessageBoxPrompter prompter;
+    Shown shown;
+    answerNextBox(localized("OK"), shown);
+    prompter.warn(nullptr, QStringLiteral("Missing Input"), QStringLiteral("Please enter a valid value."));
+    EXPECT_EQ(shown.title, QStringLiteral("Missing Input"));
+    EXPECT_EQ(shown.text, QStringLiteral("Please enter a valid value."));
+    EXPECT_EQ(shown.icon, QMessageBox::Warning);
+    EXPECT_EQ(shown.buttons, QStringList({ localized("OK") }));
+}
+
+} // namespace
