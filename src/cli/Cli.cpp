@@ -1,7 +1,9 @@
 #include "cli/Cli.h"
 
 #include "cli/ListCommand.h"
+#include "cli/LogsCommand.h"
 #include "cli/RenameCommand.h"
+#include "cli/UndoCommand.h"
 #include "cli/Usage.h"
 #include "core/text/LocalizedStrings.h"
 
@@ -19,6 +21,8 @@ const Command kCommands[] = {
     { "list", "CLILISTSUMMARY", runListCommand },
     { "preview", "CLIPREVIEWSUMMARY", runPreviewCommand },
     { "apply", "CLIAPPLYSUMMARY", runApplyCommand },
+    { "logs", "CLILOGSSUMMARY", runLogsCommand },
+    { "undo", "CLIUNDOSUMMARY", runUndoCommand },
 };
 
 const Command* findCommand(const QString& name)

@@ -1,5 +1,6 @@
 #include "cli/Cli.h"
 #include "cli/Usage.h"
+#include "core/log/LogRecovery.h"
 #include "core/profiles/Preferences.h"
 
 #include <QCoreApplication>
@@ -16,6 +17,7 @@ int main(int argc, char** argv)
         err << support.errorTitle << ": " << support.errorMessage << '\n';
         return tavrin::cli::kExitFailed;
     }
+    tavrin::recoverInterruptedLogs(support.preferences.defaultLogFolderPath);
     QStringList arguments = QCoreApplication::arguments();
     arguments.removeFirst();
     const int status = tavrin::cli::run(arguments, out, err);

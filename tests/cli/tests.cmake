@@ -5,3 +5,7 @@ add_dependencies(test_cli_list tavrin-cli)
 tavrin_add_test(test_cli_rename SOURCES ${CMAKE_CURRENT_LIST_DIR}/RenameCommandTest.cpp)
 target_compile_definitions(test_cli_rename PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
 add_dependencies(test_cli_rename tavrin-cli)
+
+tavrin_add_test(test_cli_undo SOURCES ${CMAKE_CURRENT_LIST_DIR}/UndoCommandTest.cpp)
+target_compile_definitions(test_cli_undo PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
+add_dependencies(test_cli_undo tavrin-cli)

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 namespace tavrin {
@@ -17,7 +18,19 @@ bool JournalFile::createExclusive(const QString& path)
     close();
     m_fd = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
     m_size = 0;
-    return m_fd >= 0 || fail();
+    if (m_fd < 0)
+        return fail();
+    lockWhileOpen();
+    return true;
+}
+
+// Tells a program starting meanwhile that this journal is alive, not left by a killed process
+// (see LogFileLock). Someone else can hold the lock only for the moment it takes to look at the
+// new, still empty file. Without locks on the file system the journal is written all the same.
+void JournalFile::lockWhileOpen()
+{
+    while (::flock(m_fd, LOCK_EX) != 0 && errno == EINTR) {
+    }
 }
 
 bool JournalFile::append(const QByteArray& bytes)

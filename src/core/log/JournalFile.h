@@ -15,7 +15,8 @@ public:
     JournalFile(const JournalFile&) = delete;
     JournalFile& operator=(const JournalFile&) = delete;
 
-    // Makes a new file; refuses to open one that exists, so no earlier journal is lost.
+    // Makes a new file; refuses to open one that exists, so no earlier journal is lost. The file
+    // stays locked (flock) until it is closed.
     bool createExclusive(const QString& path);
     // Writes the bytes at the end. On failure the file is cut back to its size before.
     bool append(const QByteArray& bytes);
@@ -29,6 +30,7 @@ public:
 
 private:
     bool fail();
+    void lockWhileOpen();
 
     int m_fd = -1;
     qint64 m_size = 0;

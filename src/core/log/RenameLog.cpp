@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QSaveFile>
+#include <QScopeGuard>
 
 namespace tavrin {
 
@@ -86,7 +87,9 @@ QString RenameLog::finish()
 {
     if (m_pending)
         confirmEntry();
-    m_journal.close();
+    // The "#" file stays open, and so locked, until it is gone: a program starting meanwhile
+    // must not take it for the log of a killed batch and finish it a second time.
+    const auto closeJournal = qScopeGuard([this] { m_journal.close(); });
     if (m_path.isEmpty())
         return QString();
     const QString path = finalPath();

@@ -31,7 +31,9 @@ QByteArray documentHead(const QString& type);
 // off after any entry still reads back entry by entry.
 QByteArray entryLine(const RenameLogEntry& entry);
 
-// The whole finished document, pretty-printed with four-space indentation.
-QByteArray document(const QString& type, const QList<RenameLogEntry>& entries);
+// The whole finished document, pretty-printed with four-space indentation. A log finished
+// for a batch that was killed keeps the version stamp its batch wrote.
+QByteArray document(const QString& type, const QList<RenameLogEntry>& entries,
+    const QString& appVersion = QStringLiteral(TAVRIN_VERSION));
 
 }  // namespace tavrin::logxml

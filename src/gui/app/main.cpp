@@ -1,3 +1,5 @@
+#include "core/log/LogRecovery.h"
+#include "core/profiles/Preferences.h"
 #include "core/text/LocalizedStrings.h"
 #include "gui/app/MainWindow.h"
 #include "gui/app/TavrinAppController.h"
@@ -6,6 +8,8 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QIcon>
+#include <QMessageBox>
+#include <cstdlib>
 
 namespace {
 
@@ -46,7 +50,16 @@ int main(int argc, char** argv)
 
     const QStringList paths = parsePaths(app);
 
+    // Without its folders the application could not keep a log of what it renames.
+    const tavrin::ApplicationSupport support = tavrin::prepareApplicationSupport();
+    if (!support.isReady()) {
+        QMessageBox::critical(nullptr, support.errorTitle, support.errorMessage);
+        return EXIT_FAILURE;
+    }
+    tavrin::recoverInterruptedLogs(support.preferences.defaultLogFolderPath);
+
     tavrin::TavrinAppController controller;
+    controller.setLogFolderPath(support.preferences.defaultLogFolderPath);
     tavrin::MainWindow window(&controller);
     window.show();
     if (!paths.isEmpty())
