@@ -8,6 +8,7 @@ packages=(
   cmake ninja-build pkg-config g++
   libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth
+  desktop-file-utils appstream shared-mime-info libxml2-utils
 )
 
 missing=()
