@@ -53,6 +53,8 @@ protected:
         auto scripted = std::make_unique<ScriptedPrompter>();
         prompter = scripted.get();
         window.renamePanel()->setPrompter(std::move(scripted));
+        // These tests rename through the General tab, which is not the first one.
+        controller.settings().setSelectedTab(tabs::General);
         window.show();
         window.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));

@@ -7,6 +7,7 @@
 #include "gui/list/FileTableModel.h"
 #include "gui/list/FileTableView.h"
 #include "gui/list/ListModeSelector.h"
+#include "gui/log/UndoSheetController.h"
 #include "gui/ui/AttachedWindow.h"
 #include "gui/ui/ElidedLabel.h"
 
@@ -107,6 +108,8 @@ void MainWindow::createActions()
                                   QKeySequence(Qt::ALT | Qt::Key_Down));
     m_cancelAction = makeAction(this, "cancelAction", "CANCELPROCESS",
                                 themeIcon("process-stop", QStyle::SP_BrowserStop, style), QKeySequence::Cancel);
+    m_undoAction = makeAction(this, "undoBatchAction", "UNDOBATCH", themeIcon("edit-undo", QStyle::SP_ArrowBack, style),
+                              QKeySequence::Undo);
     m_quitAction = makeAction(this, "quitAction", "QUIT", QIcon::fromTheme(QStringLiteral("application-exit")),
                               QKeySequence::Quit);
 
@@ -115,6 +118,7 @@ void MainWindow::createActions()
     setToolTipWithShortcut(m_moveUpAction, "MOVEUPTOOLTIP");
     setToolTipWithShortcut(m_moveDownAction, "MOVEDOWNTOOLTIP");
     setToolTipWithShortcut(m_cancelAction, "CANCELPROCESSTOOLTIP");
+    setToolTipWithShortcut(m_undoAction, "UNDOBATCHTOOLTIP");
 
     connect(m_addFilesAction, &QAction::triggered, this, &MainWindow::chooseFiles);
     connect(m_addFoldersAction, &QAction::triggered, this, &MainWindow::chooseFolders);
@@ -123,6 +127,7 @@ void MainWindow::createActions()
     connect(m_moveUpAction, &QAction::triggered, this, &MainWindow::moveSelectedUp);
     connect(m_moveDownAction, &QAction::triggered, this, &MainWindow::moveSelectedDown);
     connect(m_cancelAction, &QAction::triggered, m_controller, &TavrinAppController::cancelProcess);
+    connect(m_undoAction, &QAction::triggered, this, &MainWindow::openUndoSheet);
     connect(m_quitAction, &QAction::triggered, this, &QWidget::close);
 }
 
@@ -135,6 +140,8 @@ void MainWindow::createMenus()
     file->addAction(m_quitAction);
 
     QMenu* edit = menuBar()->addMenu(localized("EDITMENU"));
+    edit->addAction(m_undoAction);
+    edit->addSeparator();
     edit->addAction(m_removeAction);
     edit->addAction(m_clearAction);
     edit->addSeparator();
@@ -159,6 +166,8 @@ void MainWindow::createToolBar()
     m_toolBar->addSeparator();
     m_toolBar->addAction(m_moveUpAction);
     m_toolBar->addAction(m_moveDownAction);
+    m_toolBar->addSeparator();
+    m_toolBar->addAction(m_undoAction);
 
     auto* spacer = new QWidget(m_toolBar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -394,7 +403,7 @@ void MainWindow::clearSortIndicator()
 
 void MainWindow::executingChanged(bool executing)
 {
-    for (QAction* action : {m_addFilesAction, m_addFoldersAction, m_removeAction, m_clearAction})
+    for (QAction* action : {m_addFilesAction, m_addFoldersAction, m_removeAction, m_clearAction, m_undoAction})
         action->setEnabled(!executing);
     m_cancelAction->setEnabled(executing);
     m_modeSelector->setEnabled(!executing);
@@ -482,6 +491,17 @@ void MainWindow::showAttachedMessage(QAction* besideAction, const char* key)
 {
     QWidget* anchor = m_toolBar->widgetForAction(besideAction);
     m_attached->showMessage(anchor ? anchor : m_table, localized(key));
+}
+
+// An undo renames items the list may hold, so it waits until no batch runs.
+void MainWindow::openUndoSheet()
+{
+    if (m_controller->isExecuting())
+        return;
+    m_attached->hide();
+    auto* sheet = new UndoSheetController(m_controller, this);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->open();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

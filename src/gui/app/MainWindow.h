@@ -71,6 +71,7 @@ private:
     void updateMoveActions();
     void showSkippedNames(const QStringList& paths);
     void showAttachedMessage(QAction* besideAction, const char* key);
+    void openUndoSheet();
 
     TavrinAppController* m_controller;
     FileTableModel* m_model;
@@ -88,6 +89,7 @@ private:
     QAction* m_moveUpAction = nullptr;
     QAction* m_moveDownAction = nullptr;
     QAction* m_cancelAction = nullptr;
+    QAction* m_undoAction = nullptr;
     QAction* m_quitAction = nullptr;
 
     QLabel* m_countLabel = nullptr;

@@ -366,6 +366,11 @@ void TavrinAppController::sort(const SortKey& key)
     emit listChanged();
 }
 
+void TavrinAppController::startTiming()
+{
+    m_startTime = m_endTime = secondsSinceEpoch();
+}
+
 void TavrinAppController::showLastActionTimeTaken(const char* key)
 {
     m_endTime = secondsSinceEpoch();

@@ -94,6 +94,9 @@ public:
     QList<int> moveDown(const QList<int>& rows);
     void sort(const SortKey& key);
 
+    // Starts the timing of an operation that runs outside the controller, such as an undo in
+    // its sheet; showLastActionTimeTaken() ends it.
+    void startTiming();
     // Ends the timing of an operation and shows "<key's text>: <seconds>".
     void showLastActionTimeTaken(const char* key);
 

@@ -3,16 +3,15 @@
 #include "core/engine/actions/general.h"
 #include "core/profiles/Settings.h"
 #include "core/text/LocalizedStrings.h"
+#include "gui/engine/OptionBinder.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QSignalBlocker>
 
 namespace tavrin {
 
@@ -28,89 +27,53 @@ constexpr int kOptionsPerColumn = 6;
 constexpr int kColumnsPerOption = 2;
 constexpr int kColumnGap = 24;
 
-// Enough for any 1-based position or occurrence in a name of at most 255 bytes.
-constexpr int kLargestNumber = 999;
-
 } // namespace
 
 GeneralTab::GeneralTab(Settings& settings, QWidget* parent)
     : ActionTab(parent)
     , m_settings(settings)
-    , m_options(new QButtonGroup(this))
+    , m_binder(new OptionBinder(settings, this))
 {
     setObjectName(QStringLiteral("generalTab"));
+    m_options = m_binder->radioGroup(
+        &Settings::chooseGeneralOption, [](const Settings& current) { return current.generalOptionIndex(); });
     buildLayout();
-    connect(m_options, &QButtonGroup::idClicked, this,
-        [this](int index) { m_settings.chooseGeneralOption(index); });
     connect(&m_settings, &Settings::settingsChanged, this, &GeneralTab::refreshFromSettings);
     refreshFromSettings();
 }
 
 QWidget* GeneralTab::fieldForOption(const QString& optionKey) const
 {
-    return m_fields.value(optionKey);
+    return m_binder->field(optionKey);
 }
 
 QComboBox* GeneralTab::makeCaseChooser(const char* optionKey)
 {
-    auto* chooser = new QComboBox;
-    chooser->setObjectName(QString::fromLatin1(optionKey));
-    chooser->addItem(localized("UPPERCASE"), lettercase::Upper);
-    chooser->addItem(localized("LOWERCASE"), lettercase::Lower);
-    chooser->addItem(localized("PROPERCASE"), lettercase::Proper);
-    connect(chooser, &QComboBox::activated, this, [this, chooser, optionKey](int) {
-        m_settings.setProperty(optionKey, chooser->currentData().toInt());
-    });
-    m_fields.insert(QString::fromLatin1(optionKey), chooser);
-    return chooser;
+    return m_binder->choice(optionKey,
+        { { "UPPERCASE", lettercase::Upper }, { "LOWERCASE", lettercase::Lower },
+            { "PROPERCASE", lettercase::Proper } });
 }
 
 QLineEdit* GeneralTab::makeTextField(const char* optionKey, const char* placeholderKey, int width)
 {
-    auto* field = new QLineEdit;
-    field->setObjectName(QString::fromLatin1(optionKey));
+    QLineEdit* field = m_binder->textField(optionKey, placeholderKey);
     field->setFixedWidth(width);
-    if (placeholderKey)
-        field->setPlaceholderText(localized(placeholderKey));
-    connect(field, &QLineEdit::textEdited, this,
-        [this, optionKey](const QString& text) { m_settings.setProperty(optionKey, text); });
-    m_fields.insert(QString::fromLatin1(optionKey), field);
-    return field;
-}
-
-// The option holds the typed text (a profile may hold any), so the field shows exactly what
-// the action will use; the validator only keeps what is typed to digits.
-QLineEdit* GeneralTab::makeNumberField(const char* optionKey)
-{
-    QLineEdit* field = makeTextField(optionKey, nullptr, kNarrowField);
-    field->setValidator(new QIntValidator(1, kLargestNumber, field));
-    field->setAlignment(Qt::AlignRight);
     return field;
 }
 
 void GeneralTab::addOption(
     int index, const char* labelKey, const char* toolTipKey, const QList<QWidget*>& inputs)
 {
-    const QString label = localized(labelKey);
-    const QString toolTip = localized(toolTipKey);
-    auto* button = new QRadioButton(label);
-    button->setObjectName(QStringLiteral("generalOption%1").arg(index));
-    button->setToolTip(toolTip);
-    m_options->addButton(button, index);
-
+    QRadioButton* button
+        = m_binder->radioButton(m_options, index, QStringLiteral("generalOption%1").arg(index), labelKey);
     // Screen readers name an input after the words before it: the option's label, or the
     // word between two inputs ("occurrence").
+    OptionBinder::describeRow(QList<QWidget*> { button } + inputs, localized(toolTipKey));
+
     auto* inputRow = new QHBoxLayout;
     inputRow->setSpacing(6);
-    QString name = label;
-    for (QWidget* input : inputs) {
-        input->setToolTip(toolTip);
-        if (const auto* word = qobject_cast<QLabel*>(input))
-            name = word->text();
-        else
-            input->setAccessibleName(name);
+    for (QWidget* input : inputs)
         inputRow->addWidget(input);
-    }
     inputRow->addStretch();
 
     const int row = index % kOptionsPerColumn;
@@ -128,6 +91,9 @@ void GeneralTab::buildLayout()
     m_grid->setVerticalSpacing(6);
 
     const auto occurrenceLabel = [] { return new QLabel(localized("OCCURRENCE")); };
+    const auto numberField = [this](const char* optionKey) {
+        return m_binder->numberField(optionKey, TextFieldFormatter::Kind::PositiveNumber);
+    };
 
     addOption(ConvertFilenameCase, "GENERALCONVERTNAME", "GENERALCONVERTNAMETIP",
         { makeCaseChooser("generalFileNameCase") });
@@ -141,13 +107,13 @@ void GeneralTab::buildLayout()
     addOption(SwapBySeperator, "GENERALSWAPSEPARATOR", "GENERALSWAPSEPARATORTIP",
         { makeTextField("generalSwapSeperator", "GENERALSEPARATORPLACEHOLDER", kNarrowField) });
     addOption(SwapByPosition, "GENERALSWAPPOSITION", "GENERALSWAPPOSITIONTIP",
-        { makeNumberField("generalSwapPosition") });
+        { numberField("generalSwapPosition") });
     addOption(RemoveAfterString, "GENERALREMOVEAFTER", "GENERALREMOVEAFTERTIP",
         { makeTextField("generalRemoveAfterString", "GENERALTEXTPLACEHOLDER", kTextField), occurrenceLabel(),
-            makeNumberField("generalRemoveAfterStringOccurrence") });
+            numberField("generalRemoveAfterStringOccurrence") });
     addOption(RemoveFromString, "GENERALREMOVEFROM", "GENERALREMOVEFROMTIP",
         { makeTextField("generalRemoveFromString", "GENERALTEXTPLACEHOLDER", kTextField), occurrenceLabel(),
-            makeNumberField("generalRemoveFromStringOccurrence") });
+            numberField("generalRemoveFromStringOccurrence") });
     addOption(FilenameMask, "GENERALMASK", "GENERALMASKTIP",
         { makeTextField("generalFilenameMask", "GENERALMASKPLACEHOLDER", kTextField) });
     addOption(ConvertWindowsCompatible, "GENERALWINDOWS", "GENERALWINDOWSTIP",
@@ -162,28 +128,12 @@ void GeneralTab::buildLayout()
 
 void GeneralTab::refreshFromSettings()
 {
+    m_binder->refresh();
     const int chosen = m_settings.generalOptionIndex();
-    if (QAbstractButton* button = m_options->button(chosen)) {
-        const QSignalBlocker blocker(m_options);
-        button->setChecked(true);
-    }
     for (auto it = m_inputsOfOption.cbegin(); it != m_inputsOfOption.cend(); ++it) {
         for (QWidget* input : it.value())
             input->setEnabled(it.key() == chosen);
     }
-    for (auto it = m_fields.cbegin(); it != m_fields.cend(); ++it)
-        refreshField(it.key(), it.value());
-}
-
-// A case code the chooser does not offer shows as no choice rather than as a wrong one.
-void GeneralTab::refreshField(const QString& optionKey, QWidget* field)
-{
-    const QVariant value = m_settings.property(optionKey.toLatin1().constData());
-    const QSignalBlocker blocker(field);
-    if (auto* chooser = qobject_cast<QComboBox*>(field))
-        chooser->setCurrentIndex(chooser->findData(value.toInt()));
-    else if (auto* line = qobject_cast<QLineEdit*>(field); line && line->text() != value.toString())
-        line->setText(value.toString());
 }
 
 } // namespace tavrin

@@ -12,6 +12,7 @@ class QLineEdit;
 
 namespace tavrin {
 
+class OptionBinder;
 class Settings;
 
 // The general action's tab: twelve one-step changes of a name, one chosen at a time, each
@@ -30,15 +31,13 @@ private:
     void buildLayout();
     QComboBox* makeCaseChooser(const char* optionKey);
     QLineEdit* makeTextField(const char* optionKey, const char* placeholderKey, int width);
-    QLineEdit* makeNumberField(const char* optionKey);
     void addOption(int index, const char* labelKey, const char* toolTipKey, const QList<QWidget*>& inputs);
     void refreshFromSettings();
-    void refreshField(const QString& optionKey, QWidget* field);
 
     Settings& m_settings;
-    QButtonGroup* m_options;
+    OptionBinder* m_binder;
+    QButtonGroup* m_options = nullptr;
     QGridLayout* m_grid = nullptr;
-    QHash<QString, QWidget*> m_fields;
     QHash<int, QList<QWidget*>> m_inputsOfOption;
 };
 

@@ -6,6 +6,9 @@
 #include "gui/engine/ActionTab.h"
 #include "gui/engine/ActionTabs.h"
 #include "gui/engine/GeneralTab.h"
+#include "gui/engine/InsertDeleteTab.h"
+#include "gui/engine/ReplaceRemoveTab.h"
+#include "gui/engine/SequenceTab.h"
 #include "gui/ui/AttachedWindow.h"
 #include "gui/ui/MessageBoxPrompter.h"
 
@@ -69,7 +72,11 @@ RenamePanel::RenamePanel(
 {
     setObjectName(QStringLiteral("renamePanel"));
     m_tabs->setObjectName(QStringLiteral("actionTabs"));
-    m_tabs->addActionTab(new GeneralTab(controller->settings()), tabs::General, localized("GENERALTAB"));
+    Settings& settings = controller->settings();
+    m_tabs->addActionTab(new SequenceTab(settings), tabs::AlphaNumeric, localized("SEQUENCETAB"));
+    m_tabs->addActionTab(new InsertDeleteTab(settings), tabs::InsertDelete, localized("INSERTDELETETAB"));
+    m_tabs->addActionTab(new ReplaceRemoveTab(settings), tabs::ReplaceRemove, localized("REPLACEREMOVETAB"));
+    m_tabs->addActionTab(new GeneralTab(settings), tabs::General, localized("GENERALTAB"));
     createActions();
 
     auto* layout = new QVBoxLayout(this);

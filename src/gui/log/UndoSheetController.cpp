@@ -1,0 +1,412 @@
+#include "gui/log/UndoSheetController.h"
+
+#include "core/log/LogListing.h"
+#include "core/text/LocalizedStrings.h"
+#include "gui/app/TavrinAppController.h"
+#include "gui/log/DesktopUndoSheetPrompter.h"
+#include "gui/log/HelpPage.h"
+#include "gui/log/LogTableModel.h"
+#include "gui/log/LogWorker.h"
+#include "gui/ui/ElidedLabel.h"
+
+#include <QAction>
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QIcon>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QLocale>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace tavrin {
+
+namespace {
+
+using Severity = UndoSheetPrompter::Severity;
+
+constexpr char kTitleKey[] = "UNDOFILESFOLDERSTITLE";
+
+QString formattedCount(int count)
+{
+    return QLocale().toString(count);
+}
+
+} // namespace
+
+UndoSheetController::UndoSheetController(TavrinAppController* delegate, QWidget* parent)
+    : QDialog(parent)
+    , m_delegate(delegate)
+    , m_prompter(std::make_unique<DesktopUndoSheetPrompter>())
+    , m_model(new LogTableModel(this))
+    , m_worker(new LogWorker(this))
+{
+    setObjectName(QStringLiteral("undoSheet"));
+    setWindowTitle(localized(kTitleKey));
+    setWindowModality(Qt::WindowModal);
+    createWidgets();
+    connect(m_worker, &LogWorker::progressChanged, this, &UndoSheetController::showProgress);
+    loadUserLogFiles();
+    resize(680, 440);
+}
+
+// The worker's destructor stops an undo in flight; its log stays, naming what is left.
+UndoSheetController::~UndoSheetController() = default;
+
+void UndoSheetController::setPrompter(std::unique_ptr<UndoSheetPrompter> prompter)
+{
+    m_prompter = std::move(prompter);
+}
+
+void UndoSheetController::createWidgets()
+{
+    auto* intro = new QLabel(localized("UNDOSHEETINTRO"));
+    intro->setWordWrap(true);
+    auto* logs = new QHBoxLayout;
+    logs->addWidget(createTable(), 1);
+    logs->addWidget(createLogCommands());
+    m_buttons = createButtons();
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(intro);
+    layout->addLayout(logs, 1);
+    layout->addWidget(createStatusArea());
+    layout->addSpacing(4);
+    layout->addWidget(m_buttons);
+    m_table->setFocus();
+}
+
+QWidget* UndoSheetController::createTable()
+{
+    m_table = new QTableView;
+    m_table->setObjectName(QStringLiteral("logTable"));
+    m_table->setModel(m_model);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setAlternatingRowColors(true);
+    m_table->setShowGrid(false);
+    m_table->setWordWrap(false);
+    m_table->setTabKeyNavigation(false);
+    m_table->setTextElideMode(Qt::ElideMiddle);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 8);
+    QHeaderView* header = m_table->horizontalHeader();
+    header->setHighlightSections(false);
+    header->setSectionResizeMode(LogTableModel::FileNameColumn, QHeaderView::Stretch);
+    header->setSectionResizeMode(LogTableModel::DateCreatedColumn, QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(LogTableModel::FilesCountColumn, QHeaderView::ResizeToContents);
+
+    auto* deleteAction = new QAction(m_table);
+    deleteAction->setShortcut(QKeySequence::Delete);
+    deleteAction->setShortcutContext(Qt::WidgetShortcut);
+    connect(deleteAction, &QAction::triggered, this, &UndoSheetController::deleteLogFile);
+    m_table->addAction(deleteAction);
+
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        &UndoSheetController::selectionChanged);
+    connect(m_model, &QAbstractItemModel::modelReset, this, &UndoSheetController::updateCountLine);
+    connect(m_model, &QAbstractItemModel::rowsRemoved, this, &UndoSheetController::updateCountLine);
+    return m_table;
+}
+
+// The count of logs on the left; what the sheet is doing on the right, with its progress;
+// below, which log the commands act on.
+QWidget* UndoSheetController::createStatusArea()
+{
+    m_countLabel = new QLabel;
+    m_countLabel->setObjectName(QStringLiteral("logCountLabel"));
+    m_statusLabel = new QLabel;
+    m_statusLabel->setObjectName(QStringLiteral("logStatusLabel"));
+    m_busyIndicator = new QProgressBar;
+    m_busyIndicator->setObjectName(QStringLiteral("undoBusyIndicator"));
+    m_busyIndicator->setTextVisible(false);
+    m_busyIndicator->setFixedWidth(140);
+    m_busyIndicator->setMaximumHeight(m_statusLabel->sizeHint().height());
+    m_busyIndicator->hide();
+    m_currentLogLabel = new ElidedLabel;
+    m_currentLogLabel->setObjectName(QStringLiteral("currentLogLabel"));
+    m_currentLogLabel->setForegroundRole(QPalette::PlaceholderText);
+
+    auto* area = new QWidget;
+    auto* layout = new QVBoxLayout(area);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* counts = new QHBoxLayout;
+    counts->addWidget(m_countLabel);
+    counts->addStretch(1);
+    counts->addWidget(m_busyIndicator);
+    counts->addWidget(m_statusLabel);
+    layout->addLayout(counts);
+    layout->addWidget(m_currentLogLabel);
+    return area;
+}
+
+// Beside the table, the commands that act on the current log without undoing it.
+QWidget* UndoSheetController::createLogCommands()
+{
+    m_logCommands = new QWidget;
+    auto* layout = new QVBoxLayout(m_logCommands);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(makeButton("openLogButton", "OPENLOGBUTTON", "OPENLOGTOOLTIP",
+        themeIcon("document-open", QStyle::SP_DialogOpenButton), &UndoSheetController::openLogFile));
+    layout->addWidget(makeButton("viewLogButton", "VIEWLOGBUTTON", "VIEWLOGTOOLTIP",
+        themeIcon("document-preview", QStyle::SP_FileDialogContentsView),
+        &UndoSheetController::viewLogFileContent));
+    layout->addWidget(makeButton("deleteLogButton", "DELETELOGBUTTON", "DELETELOGTOOLTIP",
+        themeIcon("edit-delete", QStyle::SP_TrashIcon), &UndoSheetController::deleteLogFile));
+    layout->addStretch(1);
+    return m_logCommands;
+}
+
+QDialogButtonBox* UndoSheetController::createButtons()
+{
+    // Made inside the sheet at once, so that the default button below is the sheet's.
+    auto* box = new QDialogButtonBox(QDialogButtonBox::Help | QDialogButtonBox::Close, this);
+    box->button(QDialogButtonBox::Help)->setText(localized("HELP"));
+    box->button(QDialogButtonBox::Help)->setShortcut(QKeySequence::HelpContents);
+    box->button(QDialogButtonBox::Close)->setText(localized("CLOSE"));
+    // The sheet is there to undo: its button takes the place and the Return key of an OK.
+    QPushButton* undo = makeButton("undoButton", "UNDOBUTTON", "UNDOBUTTONTOOLTIP",
+        themeIcon("edit-undo", QStyle::SP_ArrowBack), &UndoSheetController::undoRenaming);
+    box->addButton(undo, QDialogButtonBox::AcceptRole);
+    undo->setDefault(true);
+    connect(box, &QDialogButtonBox::rejected, this, &UndoSheetController::reject);
+    connect(box, &QDialogButtonBox::helpRequested, this, &UndoSheetController::showHelp);
+    return box;
+}
+
+QPushButton* UndoSheetController::makeButton(const char* objectName, const char* textKey,
+    const char* toolTipKey, const QIcon& icon, void (UndoSheetController::*command)())
+{
+    auto* button = new QPushButton(icon, localized(textKey));
+    button->setObjectName(QString::fromLatin1(objectName));
+    button->setToolTip(localized(toolTipKey));
+    connect(button, &QPushButton::clicked, this, command);
+    return button;
+}
+
+QIcon UndoSheetController::themeIcon(const char* name, QStyle::StandardPixmap fallback) const
+{
+    return QIcon::fromTheme(QString::fromLatin1(name), style()->standardIcon(fallback));
+}
+
+void UndoSheetController::loadUserLogFiles()
+{
+    setCurrentLog(QString(), 0);
+    m_model->setLogs(tavrin::loadUserLogFiles(m_delegate->logFolderPath()));
+    showEntriesStatus(0);
+}
+
+// Clearing the selection leaves the current log as it was: a log opened from disk has no row.
+void UndoSheetController::selectionChanged()
+{
+    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
+    if (rows.isEmpty())
+        return;
+    const LogFileRecord& log = m_model->log(rows.first().row());
+    setCurrentLog(log.path, log.filesCount);
+    showEntriesStatus(log.filesCount);
+}
+
+void UndoSheetController::setCurrentLog(const QString& path, int entries)
+{
+    m_currLogFilePath = path;
+    m_totalFilesCanBeUndoFromLog = entries;
+    m_currentLogLabel->setFullText(path.isEmpty() ? QString() : localized("CURRENTLOG").arg(path));
+}
+
+void UndoSheetController::showEntriesStatus(int entries)
+{
+    m_statusLabel->setText(localized("TOTALNOSRENAMEDITEMSFOUND").arg(formattedCount(entries)));
+}
+
+void UndoSheetController::updateCountLine()
+{
+    m_countLabel->setText(localized("TOTALLOGFILES").arg(formattedCount(m_model->rowCount())));
+}
+
+void UndoSheetController::setUndoing(bool undoing, const QString& status)
+{
+    m_isUndoing = undoing;
+    m_table->setEnabled(!undoing);
+    m_logCommands->setEnabled(!undoing);
+    m_buttons->setEnabled(!undoing);
+    // Busy until the worker says how far it has come.
+    m_busyIndicator->setRange(0, 0);
+    m_busyIndicator->setVisible(undoing);
+    m_statusLabel->setText(status);
+    if (!undoing)
+        m_table->setFocus();
+}
+
+void UndoSheetController::showProgress(int done, int total)
+{
+    if (!m_isUndoing || total <= 0)
+        return;
+    m_busyIndicator->setRange(0, total);
+    m_busyIndicator->setValue(done);
+}
+
+void UndoSheetController::alert(Severity severity, const char* titleKey, const QString& message)
+{
+    m_prompter->alert(this, severity, localized(titleKey), message);
+}
+
+void UndoSheetController::undoRenaming()
+{
+    if (m_isUndoing)
+        return;
+    if (m_currLogFilePath.isEmpty()) {
+        alert(Severity::Warning, kTitleKey, localized("UNDOFILESFOLDERSNOLOGSELECTED"));
+        return;
+    }
+    // A log that renamed nothing has nothing to give back: it only goes.
+    if (m_totalFilesCanBeUndoFromLog <= 0) {
+        removeCurrentLog();
+        return;
+    }
+    setUndoing(true, localized("UNDOINGITEMS"));
+    m_delegate->startTiming();
+    m_jobPath = m_currLogFilePath;
+    m_summary = UndoSummary();
+    connect(m_worker, &LogWorker::finished, this, &UndoSheetController::finishUndo, Qt::SingleShotConnection);
+    m_worker->start([this, path = m_jobPath](const std::atomic_bool& cancel, ProgressObserver* progress) {
+        m_summary = tavrin::undoRenaming(path, cancel, progress);
+    });
+}
+
+void UndoSheetController::finishUndo()
+{
+    const bool done = m_summary.outcome == UndoOutcome::Done;
+    setUndoing(false,
+        done ? localized("ITEMSRESTORED").arg(formattedCount(m_summary.restored))
+             : localized("TOTALNOSRENAMEDITEMSFOUND").arg(formattedCount(m_totalFilesCanBeUndoFromLog)));
+    m_delegate->showLastActionTimeTaken("UNDOINGTIME");
+    switch (m_summary.outcome) {
+    case UndoOutcome::Done:
+        alert(Severity::Information, kTitleKey, undoSummaryText(m_summary));
+        // The undo deleted the log unless that failed; then the row stays, as the file does.
+        if (!QFileInfo::exists(m_jobPath))
+            forgetLog(m_jobPath);
+        break;
+    case UndoOutcome::NotALog:
+        alert(Severity::Warning, kTitleKey, localized("UNDOFILESFOLDERSINVALIDFILE"));
+        break;
+    case UndoOutcome::InUse:
+        alert(Severity::Warning, kTitleKey, localized("UNDOFILESFOLDERSLOGINUSE"));
+        break;
+    case UndoOutcome::Cancelled:
+        break;
+    }
+    emit undoFinished();
+}
+
+void UndoSheetController::openLogFile()
+{
+    if (m_isUndoing)
+        return;
+    const QString path = m_prompter->chooseLogFile(this, m_delegate->logFolderPath());
+    if (path.isEmpty())
+        return;
+    setUndoing(true, localized("CHECKINGLOGFILE"));
+    m_jobPath = path;
+    m_checked = CheckedLog();
+    connect(
+        m_worker, &LogWorker::finished, this, &UndoSheetController::finishCheck, Qt::SingleShotConnection);
+    m_worker->start(
+        [this, path](const std::atomic_bool&, ProgressObserver*) { m_checked = tavrin::openLogFile(path); });
+}
+
+// A log of another version, or one at work elsewhere, changes nothing; one of this version
+// becomes the current log, even without entries, so that Undo can clear it away.
+void UndoSheetController::finishCheck()
+{
+    setUndoing(
+        false, localized("TOTALNOSRENAMEDITEMSFOUND").arg(formattedCount(m_totalFilesCanBeUndoFromLog)));
+    switch (m_checked.check) {
+    case LogCheck::Incompatible:
+        alert(Severity::Critical, kTitleKey, localized(m_checked.messageKey()));
+        break;
+    case LogCheck::InUse:
+        alert(Severity::Warning, kTitleKey, localized(m_checked.messageKey()));
+        break;
+    case LogCheck::InvalidFile:
+    case LogCheck::Ready:
+        m_table->clearSelection();
+        setCurrentLog(m_jobPath, m_checked.entries);
+        showEntriesStatus(m_checked.entries);
+        if (m_checked.check == LogCheck::InvalidFile)
+            alert(Severity::Warning, kTitleKey, localized(m_checked.messageKey()));
+        break;
+    }
+    emit checkFinished();
+}
+
+void UndoSheetController::deleteLogFile()
+{
+    if (m_isUndoing)
+        return;
+    if (m_currLogFilePath.isEmpty()) {
+        alert(Severity::Warning, kTitleKey, localized("UNDOFILESFOLDERSNOLOGSELECTED"));
+        return;
+    }
+    if (m_prompter->confirmDelete(this))
+        removeCurrentLog();
+}
+
+void UndoSheetController::removeCurrentLog()
+{
+    const QString path = m_currLogFilePath;
+    deleteLog(path);
+    if (QFileInfo::exists(path))
+        alert(Severity::Warning, kTitleKey, localized("LOGDELETEFAILED"));
+    else
+        forgetLog(path);
+}
+
+// The log at `path` is gone: it stops being current, and its row makes way for the next one
+// (or the last, when it was last), which is selected and so becomes current.
+void UndoSheetController::forgetLog(const QString& path)
+{
+    if (m_currLogFilePath == path)
+        setCurrentLog(QString(), 0);
+    const int row = m_model->rowOfPath(path);
+    if (row >= 0)
+        m_model->removeLog(row);
+    m_table->clearSelection();
+    showEntriesStatus(0);
+    const int next = std::min(row, m_model->rowCount() - 1);
+    if (row >= 0 && next >= 0)
+        m_table->selectRow(next);
+}
+
+void UndoSheetController::viewLogFileContent()
+{
+    if (m_currLogFilePath.isEmpty()) {
+        alert(Severity::Warning, "VIEWLOGFILETITLE", localized("VIEWLOGFILETITLEMESSAGE"));
+        return;
+    }
+    if (!m_prompter->openWithDesktop(m_currLogFilePath))
+        alert(Severity::Warning, "VIEWLOGFILETITLE", localized("VIEWLOGFAILED").arg(m_currLogFilePath));
+}
+
+void UndoSheetController::showHelp()
+{
+    const QString page = helpPageFile(QStringLiteral("undo.html"));
+    if (page.isEmpty() || !m_prompter->openWithDesktop(page))
+        alert(Severity::Warning, "HELP", localized("HELPUNAVAILABLE"));
+}
+
+// Closing waits for a running undo: the sheet is the only place that reports how it ended.
+void UndoSheetController::reject()
+{
+    if (!m_isUndoing)
+        QDialog::reject();
+}
+
+} // namespace tavrin

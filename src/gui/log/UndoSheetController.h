@@ -1,0 +1,111 @@
+#pragma once
+
+#include "core/log/LogFileCheck.h"
+#include "core/log/UndoRenaming.h"
+#include "gui/log/UndoSheetPrompter.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QString>
+#include <QStyle>
+#include <memory>
+
+class QIcon;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QTableView;
+
+namespace tavrin {
+
+class ElidedLabel;
+class LogTableModel;
+class LogWorker;
+class TavrinAppController;
+
+// The sheet that undoes a logged batch: the logs of the log folder, newest first, and the
+// commands to undo, open, view and delete one. The undo itself and the check of a log chosen
+// on disk run on a worker thread, so the sheet stays responsive through a long undo; while
+// one runs, every command waits and the sheet cannot be closed. The delegate (the
+// application controller) names the log folder and shows the time an undo took.
+class UndoSheetController : public QDialog {
+    Q_OBJECT
+
+public:
+    UndoSheetController(TavrinAppController* delegate, QWidget* parent);
+    ~UndoSheetController() override;
+
+    void setPrompter(std::unique_ptr<UndoSheetPrompter> prompter);
+
+    LogTableModel* model() const { return m_model; }
+    QTableView* table() const { return m_table; }
+    // True while a log is checked or undone.
+    bool isUndoing() const { return m_isUndoing; }
+    // The log the commands act on: the selected row's, or one opened from disk; "" for none.
+    const QString& currLogFilePath() const { return m_currLogFilePath; }
+    int totalFilesCanBeUndoFromLog() const { return m_totalFilesCanBeUndoFromLog; }
+
+    // Lists the logs of the delegate's log folder; none is current afterwards.
+    void loadUserLogFiles();
+    void undoRenaming();
+    void openLogFile();
+    void deleteLogFile();
+    void viewLogFileContent();
+    void showHelp();
+
+signals:
+    // After the check of a log chosen on disk, its alert included.
+    void checkFinished();
+    // After an undo, its summary included.
+    void undoFinished();
+
+protected:
+    void reject() override;
+
+private:
+    void createWidgets();
+    QWidget* createTable();
+    QWidget* createStatusArea();
+    QWidget* createLogCommands();
+    QDialogButtonBox* createButtons();
+    QPushButton* makeButton(const char* objectName, const char* textKey, const char* toolTipKey,
+        const QIcon& icon, void (UndoSheetController::*command)());
+    QIcon themeIcon(const char* name, QStyle::StandardPixmap fallback) const;
+
+    void selectionChanged();
+    void setCurrentLog(const QString& path, int entries);
+    void showEntriesStatus(int entries);
+    void updateCountLine();
+    void setUndoing(bool undoing, const QString& status);
+    void showProgress(int done, int total);
+    void alert(UndoSheetPrompter::Severity severity, const char* titleKey, const QString& message);
+
+    void finishCheck();
+    void finishUndo();
+    void removeCurrentLog();
+    void forgetLog(const QString& path);
+
+    TavrinAppController* m_delegate;
+    std::unique_ptr<UndoSheetPrompter> m_prompter;
+    LogTableModel* m_model;
+    LogWorker* m_worker;
+
+    QTableView* m_table = nullptr;
+    QLabel* m_countLabel = nullptr;
+    QLabel* m_statusLabel = nullptr;
+    ElidedLabel* m_currentLogLabel = nullptr;
+    QProgressBar* m_busyIndicator = nullptr;
+    QWidget* m_logCommands = nullptr;
+    QDialogButtonBox* m_buttons = nullptr;
+
+    QString m_currLogFilePath;
+    int m_totalFilesCanBeUndoFromLog = 0;
+    bool m_isUndoing = false;
+    // The log the worker's job is about, and what the job found; the worker thread writes
+    // the results, the GUI thread reads them once it has ended.
+    QString m_jobPath;
+    CheckedLog m_checked;
+    UndoSummary m_summary;
+};
+
+} // namespace tavrin

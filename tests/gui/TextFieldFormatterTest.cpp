@@ -1,0 +1,111 @@
+#include "gui/ui/TextFieldFormatter.h"
+
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace tavrin;
+using Kind = TextFieldFormatter::Kind;
+
+namespace {
+
+struct FilterRow {
+    Kind kind;
+    const char* typed;
+    const char* kept;
+};
+
+// Letters are only trimmed at the ends; numbers keep their digits wherever they stand.
+const FilterRow kFilters[] = {
+    { Kind::Letters, "AB1c", "ab1c" },
+    { Kind::Letters, "123", "a" },
+    { Kind::Letters, "", "a" },
+    { Kind::Letters, " -Xy. ", "xy" },
+    { Kind::Letters, "zz", "zz" },
+    { Kind::PositiveNumber, " 0x", "1" },
+    { Kind::PositiveNumber, "", "1" },
+    { Kind::PositiveNumber, "000", "1" },
+    { Kind::PositiveNumber, "x7y", "7" },
+    { Kind::PositiveNumber, "1 2", "12" },
+    { Kind::PositiveNumber, "-3", "3" },
+    { Kind::PositiveNumber, "007", "007" },
+    { Kind::Number, "", "0" },
+    { Kind::Number, "0", "0" },
+    { Kind::Number, " 12a", "12" },
+    { Kind::Text, " a/b ", " a/b " },
+    { Kind::Text, "", "" },
+};
+
+TEST(TextFieldFormatterTest, EachKindKeepsWhatItsOptionCanHold)
+{
+    for (const FilterRow& row : kFilters) {
+        EXPECT_EQ(
+            TextFieldFormatter::filtered(row.kind, QString::fromUtf8(row.typed)), QString::fromUtf8(row.kept))
+            << int(row.kind) << " \"" << row.typed << '"';
+    }
+}
+
+class FormattedFieldTest : public ::testing::Test {
+protected:
+    void attach(Kind kind, int maximumLength = 9)
+    {
+        formatter = new TextFieldFormatter(&field, kind, maximumLength);
+        edits = std::make_unique<QSignalSpy>(formatter, &TextFieldFormatter::edited);
+        field.show();
+        field.setFocus();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&field));
+    }
+
+    QString lastEdit() const { return edits->isEmpty() ? QString() : edits->last().first().toString(); }
+
+    QLineEdit field;
+    TextFieldFormatter* formatter = nullptr;
+    std::unique_ptr<QSignalSpy> edits;
+};
+
+TEST_F(FormattedFieldTest, TheEditSignalCarriesTheFilteredText)
+{
+    attach(Kind::Letters);
+    QTest::keyClicks(&field, QStringLiteral("Ab"));
+    EXPECT_EQ(field.text(), QStringLiteral("ab"));
+    EXPECT_EQ(lastEdit(), QStringLiteral("ab"));
+    EXPECT_EQ(edits->size(), 2);
+}
+
+TEST_F(FormattedFieldTest, AStandInValueIsReplacedByTheNextKey)
+{
+    attach(Kind::PositiveNumber);
+    QTest::keyClicks(&field, QStringLiteral("5"));
+    QTest::keyClick(&field, Qt::Key_Backspace);
+    EXPECT_EQ(field.text(), QStringLiteral("1"));
+    EXPECT_EQ(field.selectedText(), QStringLiteral("1"));
+    EXPECT_EQ(lastEdit(), QStringLiteral("1"));
+
+    QTest::keyClicks(&field, QStringLiteral("3"));
+    EXPECT_EQ(field.text(), QStringLiteral("3")) << "not 13";
+}
+
+TEST_F(FormattedFieldTest, ARefusedCharacterLeavesTheCursorWhereTheUserTyped)
+{
+    attach(Kind::PositiveNumber);
+    QTest::keyClicks(&field, QStringLiteral("1234"));
+    field.setCursorPosition(2);
+    QTest::keyClicks(&field, QStringLiteral("x9"));
+    EXPECT_EQ(field.text(), QStringLiteral("12934"));
+    EXPECT_EQ(field.cursorPosition(), 3);
+}
+
+TEST_F(FormattedFieldTest, OnlyTheUsersEditsAreFilteredAndTheLengthIsLimited)
+{
+    attach(Kind::PositiveNumber, 3);
+    field.setText(QStringLiteral("0"));
+    EXPECT_EQ(field.text(), QStringLiteral("0")) << "a stored value shows as the action will use it";
+    EXPECT_TRUE(edits->isEmpty());
+
+    field.selectAll();
+    QTest::keyClicks(&field, QStringLiteral("98765"));
+    EXPECT_EQ(field.text(), QStringLiteral("987"));
+}
+
+} // namespace
