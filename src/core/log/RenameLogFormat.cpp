@@ -17,24 +17,41 @@ void writeRootStart(QXmlStreamWriter& writer, const QString& type, const QString
     writer.writeAttribute(QLatin1String(Type), type);
 }
 
-// Escapes an attribute value exactly as QXmlStreamWriter does: markup characters and the
-// three whitespace controls become references, other characters XML cannot hold are left out.
-void appendEscapedAttribute(QString& out, const QString& value)
+const char* replacementFor(char c)
 {
-    for (const QChar c : value) {
-        switch (c.unicode()) {
-        case '<': out += QLatin1String("&lt;"); break;
-        case '>': out += QLatin1String("&gt;"); break;
-        case '&': out += QLatin1String("&amp;"); break;
-        case '"': out += QLatin1String("&quot;"); break;
-        case '\t': out += QLatin1String("&#9;"); break;
-        case '\n': out += QLatin1String("&#10;"); break;
-        case '\r': out += QLatin1String("&#13;"); break;
-        default:
-            if (c.unicode() >= 0x20 && c.unicode() < 0xFFFE)
-                out += c;
-            break;
-        }
+    switch (c) {
+    case '<': return "&lt;";
+    case '>': return "&gt;";
+    case '&': return "&amp;";
+    case '"': return "&quot;";
+    case '\t': return "&#9;";
+    case '\n': return "&#10;";
+    case '\r': return "&#13;";
+    default: return nullptr;
+    }
+}
+
+// U+FFFE and U+FFFF, which XML cannot hold, as UTF-8 bytes.
+bool isNonCharacterAt(const QByteArray& text, qsizetype i)
+{
+    return i + 2 < text.size() && uchar(text[i]) == 0xEF && uchar(text[i + 1]) == 0xBF
+        && (uchar(text[i + 2]) == 0xBE || uchar(text[i + 2]) == 0xBF);
+}
+
+// Escapes an attribute value exactly as QXmlStreamWriter does: markup characters and the
+// three whitespace controls become references, other characters XML cannot hold are left
+// out. Works on the UTF-8 bytes, where every character to look at is a single byte.
+void appendEscapedAttribute(QByteArray& out, const QString& value)
+{
+    const QByteArray text = value.toUtf8();
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        if (const char* replacement = replacementFor(c))
+            out += replacement;
+        else if (isNonCharacterAt(text, i))
+            i += 2;
+        else if (uchar(c) >= 0x20)
+            out += c;
     }
 }
 
@@ -68,8 +85,11 @@ QByteArray documentHead(const QString& type)
 QByteArray entryLine(const RenameLogEntry& entry)
 {
     // Written by hand rather than through a QXmlStreamWriter per entry: a batch of 100,000
-    // renames writes 100,000 of these lines, and the escaping is the writer's own.
-    QString line = QString(indentWidth, QLatin1Char(' ')) + QLatin1Char('<') + QLatin1String(Entry);
+    // renames writes 100,000 of these lines.
+    QByteArray line;
+    line.reserve(96 + 3 * (entry.sourceLocation.size() + entry.targetLocation.size() + entry.sourceName.size()
+                           + entry.targetName.size()));
+    line.append(indentWidth, ' ').append('<').append(Entry);
     const std::pair<const char*, const QString*> attributes[] = {
         {SourceLocation, &entry.sourceLocation},
         {TargetLocation, &entry.targetLocation},
@@ -77,12 +97,11 @@ QByteArray entryLine(const RenameLogEntry& entry)
         {TargetName, &entry.targetName},
     };
     for (const auto& [name, value] : attributes) {
-        line += QLatin1Char(' ') + QLatin1String(name) + QLatin1String("=\"");
+        line.append(' ').append(name).append("=\"");
         appendEscapedAttribute(line, *value);
-        line += QLatin1Char('"');
+        line.append('"');
     }
-    line += QLatin1String("/>\n");
-    return line.toUtf8();
+    return line.append("/>\n");
 }
 
 QByteArray document(const QString& type, const QList<RenameLogEntry>& entries, const QString& appVersion)

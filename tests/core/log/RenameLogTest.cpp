@@ -1,9 +1,11 @@
 #include "core/log/RenameLog.h"
+#include "core/log/RenameLogFormat.h"
 #include "core/log/RenameLogReader.h"
 #include "support/TempTree.h"
 
 #include <QDir>
 #include <QFile>
+#include <QXmlStreamWriter>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -86,6 +88,33 @@ TEST(RenameLog, WritesTheFinishedDocumentByteForByte)
           "srcfilename=\"a/b &amp; &lt;c&gt;.txt\" tarfilename=\"&quot;quoted&quot; 'x'.txt\"/>\n"
           "</files>\n";
     EXPECT_EQ(contentOf(log.finish()), expected);
+}
+
+// Entry lines are written by hand for speed; they must stay what Qt's XML writer makes of
+// the same element, whatever the names hold.
+TEST(RenameLogFormat, EntryLinesEscapeNamesAsQtsXmlWriterDoes)
+{
+    const QString awkward[] = {
+        QStringLiteral("plain name.txt"),
+        QStringLiteral("a&b <c> \"d\" 'e'"),
+        QStringLiteral("tab\there\nnewline\rreturn"),
+        QString::fromUtf8("bell\x07 and \x01 gone"),
+        QString::fromUtf8("caf\xC3\xA9 \xF0\x9F\x93\xB7 \xEF\xBF\xBE end"),
+    };
+    for (const QString& name : awkward) {
+        RenameLogEntry entry{QStringLiteral("/folder"), QStringLiteral("/folder"), name, name + QStringLiteral("2"), true};
+        QByteArray expected;
+        {
+            QXmlStreamWriter writer(&expected);
+            writer.writeEmptyElement(QStringLiteral("file"));
+            writer.writeAttribute(QStringLiteral("srclocation"), entry.sourceLocation);
+            writer.writeAttribute(QStringLiteral("tarlocation"), entry.targetLocation);
+            writer.writeAttribute(QStringLiteral("srcfilename"), entry.sourceName);
+            writer.writeAttribute(QStringLiteral("tarfilename"), entry.targetName);
+            writer.writeCharacters(QString());
+        }
+        EXPECT_EQ(logxml::entryLine(entry), "    " + expected + "\n") << name.toStdString();
+    }
 }
 
 TEST(RenameLog, AnEmptyBatchLeavesALogCountingZero)
