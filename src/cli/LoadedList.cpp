@@ -1,26 +1,13 @@
 #include "cli/LoadedList.h"
 
+#include "core/platform/FileOperations.h"
 #include "core/text/LocalizedStrings.h"
 
-#include <QFile>
 #include <ranges>
-#include <sys/stat.h>
 
 namespace tavrin::cli {
 
 namespace {
-
-bool existsOnDisk(const QString& path)
-{
-    struct stat info { };
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
-}
-
-bool isRealFolder(const QString& path)
-{
-    struct stat info { };
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0 && S_ISDIR(info.st_mode);
-}
 
 // Stable sorts from the last key to the first leave the first key deciding, the next
 // one breaking its ties, and so on.
@@ -36,9 +23,9 @@ LoadedList loadList(const CommonOptions& options)
 {
     LoadedList loaded;
     for (const QString& path : options.paths) {
-        if (!existsOnDisk(path))
+        if (!pathExists(path))
             loaded.missing.append(path);
-        else if (!options.scan.folders && !options.scan.includeSubFolders && isRealFolder(path))
+        else if (!options.scan.folders && !options.scan.includeSubFolders && isDirectory(path))
             loaded.unsearchedFolders.append(path);
     }
     const std::atomic_bool neverCancelled = false;

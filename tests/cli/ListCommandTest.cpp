@@ -1,6 +1,7 @@
 #include "cli/CommonOptions.h"
 #include "core/text/LocalizedStrings.h"
 #include "support/TempTree.h"
+#include "support/TestStrings.h"
 #include "CliRunner.h"
 
 #include <QDir>
@@ -18,18 +19,8 @@ using tavrin::test::runCli;
 
 namespace {
 
-QString str(const char* text)
-{
-    return QString::fromUtf8(text);
-}
-
-QStringList strs(std::initializer_list<const char*> texts)
-{
-    QStringList list;
-    for (const char* text : texts)
-        list.append(str(text));
-    return list;
-}
+using test::str;
+using test::strs;
 
 // QTemporaryDir removes a tree through QString names and cannot reach a name that is not
 // UTF-8, so such entries are taken away by their bytes before the tree goes.

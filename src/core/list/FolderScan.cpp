@@ -1,5 +1,7 @@
 #include "core/list/FolderScan.h"
 
+#include "core/platform/FileOperations.h"
+
 #include "core/list/FilesComparison.h"
 #include "core/list/StatusTexts.h"
 #include "core/text/NameParts.h"
@@ -24,12 +26,6 @@ struct FolderEntry {
     QByteArray sortKey;
     QString path;
 };
-
-bool existsOnDisk(const QString& path)
-{
-    struct stat info { };
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
-}
 
 // A directory itself, not a link to one; d_type saves a stat call on most file systems.
 bool isRealFolder(const QByteArray& rawFolder, const dirent& entry)
@@ -75,7 +71,7 @@ ScanResult FolderScan::run(const QStringList& paths)
     try {
         QStringList existing;
         for (const QString& path : paths) {
-            if (!path.isEmpty() && existsOnDisk(path))
+            if (!path.isEmpty() && pathExists(path))
                 existing.append(path);
         }
         scan(existing);

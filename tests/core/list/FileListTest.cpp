@@ -1,6 +1,7 @@
 #include "core/list/FileList.h"
 #include "core/list/StatusTexts.h"
 #include "support/TempTree.h"
+#include "support/TestStrings.h"
 
 #include <QDir>
 #include <gtest/gtest.h>
@@ -11,18 +12,8 @@ using namespace tavrin;
 
 namespace {
 
-QString str(const char* text)
-{
-    return QString::fromUtf8(text);
-}
-
-QStringList strs(std::initializer_list<const char*> texts)
-{
-    QStringList list;
-    for (const char* text : texts)
-        list.append(str(text));
-    return list;
-}
+using test::str;
+using test::strs;
 
 // The list's paths relative to the tree, in list order, so expectations read like a tree.
 QStringList relativeRows(const FileList& list, const test::TempTree& tree)
