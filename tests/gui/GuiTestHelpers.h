@@ -44,11 +44,14 @@ class ScriptedPrompter final : public Prompter {
 public:
     bool confirmAnswer = true;
     bool continueAnswer = false;
+    bool yesNoAnswer = true;
 
     int confirmations = 0;
     int logQuestions = 0;
     bool logQuestionOnGuiThread = false;
     QStringList warnings;  // "title|message"
+    QStringList notices;   // "title|message"
+    QStringList questions; // "title|message"
 
     bool confirmRename(QWidget*) override
     {
@@ -66,6 +69,17 @@ public:
     void warn(QWidget*, const QString& title, const QString& message) override
     {
         warnings.append(title + QLatin1Char('|') + message);
+    }
+
+    void inform(QWidget*, const QString& title, const QString& message) override
+    {
+        notices.append(title + QLatin1Char('|') + message);
+    }
+
+    bool askYesNo(QWidget*, const QString& title, const QString& message) override
+    {
+        questions.append(title + QLatin1Char('|') + message);
+        return yesNoAnswer;
     }
 };
 

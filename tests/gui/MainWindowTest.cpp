@@ -1,5 +1,7 @@
 #include "gui/app/MainWindow.h"
 
+#include "core/text/LocalizedStrings.h"
+
 #include "GuiTestHelpers.h"
 #include "gui/list/FileTableModel.h"
 #include "gui/list/FileTableView.h"
@@ -350,11 +352,12 @@ TEST_F(MainWindowTest, AddFoldersLetsSeveralFoldersBeChosen)
 
 TEST_F(MainWindowTest, TheWindowIsTitledAndHasRoomForTheActions)
 {
-    EXPECT_EQ(window.windowTitle(), QStringLiteral("Tavrin"));
+    EXPECT_EQ(window.windowTitle(), localized("DEFAULT"));
     EXPECT_FALSE(window.windowIcon().isNull());
     ASSERT_NE(window.actionArea(), nullptr);
     for (const char* name : {"addFilesAction", "addFoldersAction", "removeAction", "clearAction", "moveUpAction",
-                             "moveDownAction", "cancelAction"}) {
+             "moveDownAction", "cancelAction", "undoBatchAction", "livePreviewAction", "pasteItemsAction",
+             "selectAllAction", "saveProfileAction", "preferencesAction", "helpAction", "quitAction"}) {
         EXPECT_FALSE(action(name)->toolTip().isEmpty()) << name;
         EXPECT_FALSE(action(name)->shortcut().isEmpty()) << name;
     }

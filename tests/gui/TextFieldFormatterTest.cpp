@@ -16,7 +16,8 @@ struct FilterRow {
     const char* kept;
 };
 
-// Letters are only trimmed at the ends; numbers keep their digits wherever they stand.
+// Letters and safe characters are only trimmed at the ends; numbers keep their digits
+// wherever they stand.
 const FilterRow kFilters[] = {
     { Kind::Letters, "AB1c", "ab1c" },
     { Kind::Letters, "123", "a" },
@@ -33,6 +34,10 @@ const FilterRow kFilters[] = {
     { Kind::Number, "", "0" },
     { Kind::Number, "0", "0" },
     { Kind::Number, " 12a", "12" },
+    { Kind::SafeCharacters, "/_X|", "_x" },
+    { Kind::SafeCharacters, "\\:*?\"<>|", "" },
+    { Kind::SafeCharacters, "a:b", "a:b" },
+    { Kind::SafeCharacters, " -", " -" },
     { Kind::Text, " a/b ", " a/b " },
     { Kind::Text, "", "" },
 };

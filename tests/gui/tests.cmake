@@ -15,3 +15,8 @@ tavrin_add_test(test_gui_insert_delete_tab GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}
 tavrin_add_test(test_gui_replace_remove_tab GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/ReplaceRemoveTabTest.cpp)
 tavrin_add_test(test_gui_undo_from_window GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/UndoFromWindowTest.cpp)
 tavrin_add_test(test_gui_tab_preview GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/TabPreviewTest.cpp)
+tavrin_add_test(test_help_page SOURCES ${CMAKE_CURRENT_LIST_DIR}/HelpPageTest.cpp GUI)
+tavrin_add_test(test_gui_preferences_sheet GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/PreferencesSheetTest.cpp)
+tavrin_add_test(test_gui_live_preview_sheet GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/LivePreviewSheetTest.cpp)
+tavrin_add_test(test_gui_pasteboard_items_sheet GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/PasteboardItemsSheetTest.cpp)
+tavrin_add_test(test_gui_session GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/SessionTest.cpp)

@@ -2,20 +2,32 @@
 
 #include "core/list/FileSystemItem.h"
 #include "core/text/LocalizedStrings.h"
+#include "gui/app/ClipboardPaths.h"
+#include "gui/app/DocumentCommands.h"
+#include "gui/app/DocumentOpener.h"
+#include "gui/app/LivePreview.h"
+#include "gui/app/PreferencesSheet.h"
 #include "gui/app/TavrinAppController.h"
+#include "gui/engine/LivePreviewSheet.h"
 #include "gui/engine/RenamePanel.h"
 #include "gui/list/FileTableModel.h"
 #include "gui/list/FileTableView.h"
 #include "gui/list/ListModeSelector.h"
+#include "gui/list/PasteboardItemsSheet.h"
+#include "gui/log/HelpPage.h"
 #include "gui/log/UndoSheetController.h"
 #include "gui/ui/AttachedWindow.h"
 #include "gui/ui/ElidedLabel.h"
+#include "gui/ui/MessageBoxPrompter.h"
 
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QDir>
+#include <QFileInfo>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QIcon>
@@ -28,8 +40,10 @@
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QMessageBox>
 #include <QStyle>
 #include <QToolBar>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -55,6 +69,18 @@ void setToolTipWithShortcut(QAction* action, const char* key)
     action->setToolTip(tip);
 }
 
+// The flag of the language the tables speak.
+QString flagResource(const QString& language)
+{
+    if (language == QLatin1String("fr"))
+        return QStringLiteral(":/icons/flags/French_Flag.svg");
+    if (language == QLatin1String("de"))
+        return QStringLiteral(":/icons/flags/German_Flag.svg");
+    if (language == QLatin1String("es"))
+        return QStringLiteral(":/icons/flags/Spanish_Flag.svg");
+    return QStringLiteral(":/icons/flags/English_Flag.svg");
+}
+
 QAction* makeAction(QObject* parent, const char* objectName, const char* textKey, const QIcon& icon,
                     const QKeySequence& shortcut)
 {
@@ -71,24 +97,37 @@ MainWindow::MainWindow(TavrinAppController* controller, QWidget* parent)
     , m_controller(controller)
     , m_model(new FileTableModel(controller, this))
     , m_attached(new AttachedWindow(this))
+    , m_prompter(std::make_unique<MessageBoxPrompter>())
+    , m_documents(new DocumentCommands(controller, this))
+    , m_opener(new DocumentOpener(*controller, this))
 {
-    setWindowTitle(localized("APPTITLE"));
+    m_documents->setPrompter(m_prompter.get());
     setWindowIcon(QIcon(QStringLiteral(":/icons/tavrin.svg")));
     m_attached->setObjectName(QStringLiteral("attachedWindow"));
 
     createActions();
-    createMenus();
     createToolBar();
     setCentralWidget(createCentralArea());
+    createMenus();
     createStatusArea();
     connectController();
 
     modeChanged();
     listChanged();
     executingChanged(false);
+    updateWindowTitle();
+    updateLivePreviewAction();
 
     const QRect screen = this->screen() ? this->screen()->availableGeometry() : QRect(0, 0, 1280, 800);
     resize(std::min(1180, screen.width() * 9 / 10), std::min(760, screen.height() * 9 / 10));
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::setPrompter(std::unique_ptr<Prompter> prompter)
+{
+    m_prompter = std::move(prompter);
+    m_documents->setPrompter(m_prompter.get());
 }
 
 void MainWindow::createActions()
@@ -111,7 +150,28 @@ void MainWindow::createActions()
     m_undoAction = makeAction(this, "undoBatchAction", "UNDOBATCH", themeIcon("edit-undo", QStyle::SP_ArrowBack, style),
                               QKeySequence::Undo);
     m_quitAction = makeAction(this, "quitAction", "QUIT", QIcon::fromTheme(QStringLiteral("application-exit")),
-                              QKeySequence::Quit);
+                              QKeySequence(Qt::CTRL | Qt::Key_Q));
+    m_pasteItemsAction = makeAction(this, "pasteItemsAction", "PASTEITEMS",
+        QIcon::fromTheme(QStringLiteral("edit-paste")), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V));
+    m_selectAllAction = makeAction(this, "selectAllAction", "SELECTALL",
+        QIcon::fromTheme(QStringLiteral("edit-select-all")), QKeySequence::SelectAll);
+    m_openProfileAction = makeAction(this, "openProfileAction", "OPENPROFILE",
+        QIcon::fromTheme(QStringLiteral("document-open")), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_O));
+    m_saveProfileAction = makeAction(this, "saveProfileAction", "SAVEPROFILE",
+        QIcon::fromTheme(QStringLiteral("document-save")), QKeySequence::Save);
+    m_saveProfileAsAction = makeAction(this, "saveProfileAsAction", "SAVEASPROFILE",
+        QIcon::fromTheme(QStringLiteral("document-save-as")), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    m_defaultProfileAction = makeAction(this, "defaultProfileAction", "DEFAULTPROFILE",
+        QIcon::fromTheme(QStringLiteral("document-new")), {});
+    m_preferencesAction = makeAction(this, "preferencesAction", "PREFERENCES",
+        QIcon::fromTheme(QStringLiteral("preferences-system")), QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    m_livePreviewAction = makeAction(this, "livePreviewAction", "LIVEPREVIEWACTION",
+        QIcon(QStringLiteral(":/icons/LivePreviewOff.svg")), QKeySequence(Qt::CTRL | Qt::Key_L));
+    m_helpAction = makeAction(this, "helpAction", "HELPCONTENTS",
+        QIcon::fromTheme(QStringLiteral("help-contents")), QKeySequence::HelpContents);
+    m_aboutAction = makeAction(this, "aboutAction", "ABOUT", QIcon::fromTheme(QStringLiteral("help-about")), {});
+    m_livePreviewAction->setCheckable(true);
+    m_pasteItemsAction->setToolTip(localized("PASTEITEMSTOOLTIP"));
 
     setToolTipWithShortcut(m_removeAction, "REMOVETOOLTIP");
     setToolTipWithShortcut(m_clearAction, "CLEARTOOLTIP");
@@ -129,6 +189,16 @@ void MainWindow::createActions()
     connect(m_cancelAction, &QAction::triggered, m_controller, &TavrinAppController::cancelProcess);
     connect(m_undoAction, &QAction::triggered, this, &MainWindow::openUndoSheet);
     connect(m_quitAction, &QAction::triggered, this, &QWidget::close);
+    connect(m_pasteItemsAction, &QAction::triggered, this, &MainWindow::pasteItems);
+    connect(m_selectAllAction, &QAction::triggered, this, &MainWindow::selectAll);
+    connect(m_openProfileAction, &QAction::triggered, m_documents, &DocumentCommands::openProfile);
+    connect(m_saveProfileAction, &QAction::triggered, m_documents, &DocumentCommands::saveProfile);
+    connect(m_saveProfileAsAction, &QAction::triggered, m_documents, &DocumentCommands::saveProfileAs);
+    connect(m_defaultProfileAction, &QAction::triggered, m_documents, &DocumentCommands::loadDefaultProfile);
+    connect(m_preferencesAction, &QAction::triggered, this, &MainWindow::openPreferences);
+    connect(m_livePreviewAction, &QAction::triggered, this, &MainWindow::showLivePreview);
+    connect(m_helpAction, &QAction::triggered, this, [this] { showHelpPage(QStringLiteral("main.html")); });
+    connect(m_aboutAction, &QAction::triggered, this, &MainWindow::showAbout);
 }
 
 void MainWindow::createMenus()
@@ -137,18 +207,36 @@ void MainWindow::createMenus()
     file->addAction(m_addFilesAction);
     file->addAction(m_addFoldersAction);
     file->addSeparator();
+    file->addAction(m_openProfileAction);
+    file->addAction(m_saveProfileAction);
+    file->addAction(m_saveProfileAsAction);
+    file->addAction(m_defaultProfileAction);
+    file->addSeparator();
+    file->addAction(m_preferencesAction);
+    file->addSeparator();
     file->addAction(m_quitAction);
 
     QMenu* edit = menuBar()->addMenu(localized("EDITMENU"));
     edit->addAction(m_undoAction);
     edit->addSeparator();
+    edit->addAction(m_pasteItemsAction);
+    edit->addAction(m_selectAllAction);
     edit->addAction(m_removeAction);
     edit->addAction(m_clearAction);
     edit->addSeparator();
     edit->addAction(m_moveUpAction);
     edit->addAction(m_moveDownAction);
-    edit->addSeparator();
-    edit->addAction(m_cancelAction);
+
+    QMenu* rename = menuBar()->addMenu(localized("RENAMEMENU"));
+    rename->addAction(m_renamePanel->previewAction());
+    rename->addAction(m_renamePanel->applyAction());
+    rename->addAction(m_livePreviewAction);
+    rename->addSeparator();
+    rename->addAction(m_cancelAction);
+
+    QMenu* help = menuBar()->addMenu(localized("HELPMENU"));
+    help->addAction(m_helpAction);
+    help->addAction(m_aboutAction);
 }
 
 void MainWindow::createToolBar()
@@ -168,6 +256,7 @@ void MainWindow::createToolBar()
     m_toolBar->addAction(m_moveDownAction);
     m_toolBar->addSeparator();
     m_toolBar->addAction(m_undoAction);
+    m_toolBar->addAction(m_livePreviewAction);
 
     auto* spacer = new QWidget(m_toolBar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -243,6 +332,18 @@ void MainWindow::createStatusArea()
     statusBar()->addPermanentWidget(m_skippedLabel);
     statusBar()->addPermanentWidget(m_busyIndicator);
     statusBar()->addPermanentWidget(m_timeLabel);
+    statusBar()->addPermanentWidget(createLanguageFlag());
+}
+
+QLabel* MainWindow::createLanguageFlag()
+{
+    auto* flag = new QLabel;
+    flag->setObjectName(QStringLiteral("languageFlag"));
+    const int height = fontMetrics().height() * 3 / 4;
+    flag->setPixmap(QIcon(flagResource(LocalizedStrings::language())).pixmap(QSize(height * 3 / 2, height)));
+    flag->setToolTip(localized("CURRENTLANGUAGE"));
+    flag->setAccessibleName(localized("CURRENTLANGUAGE"));
+    return flag;
 }
 
 void MainWindow::connectController()
@@ -260,6 +361,13 @@ void MainWindow::connectController()
     connect(m_modeSelector, &ListModeSelector::modeChosen, m_controller, &TavrinAppController::setMode);
     connect(m_modeSelector, &ListModeSelector::includeSubFoldersChosen, m_controller,
             &TavrinAppController::setIncludeSubFolders);
+
+    connect(m_controller, &TavrinAppController::currProfileFileChanged, this, &MainWindow::updateWindowTitle);
+    connect(m_controller, &TavrinAppController::pasteboardItemsRequested, this,
+        &MainWindow::openPasteboardItemsSheet);
+    connect(&m_controller->livePreview(), &LivePreview::stateChanged, this, &MainWindow::updateLivePreviewAction);
+    connect(m_opener, &DocumentOpener::ruleFileOpened, m_documents, &DocumentCommands::openRuleDocument);
+    connect(m_opener, &DocumentOpener::profileFileOpened, m_documents, &DocumentCommands::openProfileDocument);
 
     connect(m_table, &FileTableView::pathsDropped, this, &MainWindow::addPaths);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, &MainWindow::updateMoveActions);
@@ -403,7 +511,8 @@ void MainWindow::clearSortIndicator()
 
 void MainWindow::executingChanged(bool executing)
 {
-    for (QAction* action : {m_addFilesAction, m_addFoldersAction, m_removeAction, m_clearAction, m_undoAction})
+    for (QAction* action : {m_addFilesAction, m_addFoldersAction, m_removeAction, m_clearAction, m_undoAction,
+             m_pasteItemsAction, m_selectAllAction, m_openProfileAction, m_defaultProfileAction})
         action->setEnabled(!executing);
     m_cancelAction->setEnabled(executing);
     m_modeSelector->setEnabled(!executing);
@@ -508,7 +617,98 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     m_attached->hide();
     m_controller->cancelProcess();
+    m_controller->applicationShouldTerminate();
     QMainWindow::closeEvent(event);
+}
+
+// Qt adds the application's name to the title itself.
+void MainWindow::updateWindowTitle()
+{
+    const QString profile = m_controller->currProfileFile();
+    setWindowTitle(profile.isEmpty() ? localized("DEFAULT") : QFileInfo(profile).completeBaseName());
+}
+
+void MainWindow::updateLivePreviewAction()
+{
+    const bool on = m_controller->livePreview().isLivePreviewEnabled();
+    m_livePreviewAction->setChecked(on);
+    m_livePreviewAction->setIcon(QIcon(on ? QStringLiteral(":/icons/LivePreview.svg")
+                                          : QStringLiteral(":/icons/LivePreviewOff.svg")));
+    setToolTipWithShortcut(m_livePreviewAction, on ? "LIVEPREVIEWONTOOLTIP" : "LIVEPREVIEWOFFTOOLTIP");
+}
+
+void MainWindow::showLivePreview()
+{
+    const LivePreview& live = m_controller->livePreview();
+    if (live.isLivePreviewEnabled()) {
+        m_controller->setLivePreview(false);
+        return;
+    }
+    // The action shows the state, not the click, until the user has chosen.
+    updateLivePreviewAction();
+    auto* sheet = new LivePreviewSheet(live.isLivePreviewAllFiles(), live.livePreviewFilesLimit(), this);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    connect(sheet, &LivePreviewSheet::helpRequested, this, [this] { showHelpPage(QStringLiteral("livepreview.html")); });
+    connect(sheet, &QDialog::accepted, this, [this, sheet] {
+        m_controller->setLivePreviewCoverage(sheet->isAllFiles(), sheet->filesLimit());
+        m_controller->setLivePreview(true);
+    });
+    sheet->open();
+}
+
+void MainWindow::openPreferences()
+{
+    auto* sheet = new PreferencesSheet(m_controller->preferences(), this);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    connect(sheet, &PreferencesSheet::helpRequested, this, [this] { showHelpPage(QStringLiteral("preferences.html")); });
+    connect(sheet, &QDialog::accepted, this, [this, sheet] {
+        QString error;
+        if (m_controller->applyPreferences(sheet->preferences(), &error))
+            m_prompter->inform(this, localized("PREFERENCESTITLE"), localized("PREFERENCESSAVEDMESSAGE"));
+        else
+            m_prompter->warn(this, localized("PREFERENCESTITLE"), error);
+    });
+    sheet->open();
+}
+
+void MainWindow::pasteItems()
+{
+    const QStringList paths = pathsFromClipboard(QGuiApplication::clipboard()->mimeData());
+    if (paths.isEmpty()) {
+        showAttachedMessage(m_pasteItemsAction, "NOITEMSONCLIPBOARD");
+        return;
+    }
+    m_opener->openFiles(paths);
+}
+
+void MainWindow::openPasteboardItemsSheet(const QStringList& paths)
+{
+    auto* sheet = new PasteboardItemsSheet(paths, this);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    connect(sheet, &PasteboardItemsSheet::helpRequested, this,
+        [this] { showHelpPage(QStringLiteral("pasteditems.html")); });
+    connect(sheet, &QDialog::accepted, this, [this, sheet] {
+        m_controller->addPastedItems(sheet->paths(), sheet->isFolders(), sheet->isIncludeSubFolders());
+    });
+    sheet->open();
+}
+
+void MainWindow::showHelpPage(const QString& page)
+{
+    const QString file = helpPageFile(page);
+    if (file.isEmpty() || !QDesktopServices::openUrl(QUrl::fromLocalFile(file)))
+        m_prompter->warn(this, localized("HELP"), localized("HELPUNAVAILABLE"));
+}
+
+void MainWindow::selectAll()
+{
+    m_table->selectAll();
+    m_table->setFocus();
+}
+
+void MainWindow::showAbout()
+{
+    QMessageBox::about(this, localized("APPTITLE"), localized("ABOUTTEXT").arg(QApplication::applicationVersion()));
 }
 
 }  // namespace tavrin

@@ -3,6 +3,7 @@
 #include <QList>
 #include <QMainWindow>
 #include <QStringList>
+#include <memory>
 
 class QAction;
 class QFileDialog;
@@ -13,7 +14,10 @@ class QToolBar;
 namespace tavrin {
 
 class AttachedWindow;
+class DocumentCommands;
+class DocumentOpener;
 class ElidedLabel;
+class Prompter;
 class FileTableModel;
 class FileTableView;
 class ListModeSelector;
@@ -27,6 +31,7 @@ class MainWindow : public QMainWindow {
 
 public:
     explicit MainWindow(TavrinAppController* controller, QWidget* parent = nullptr);
+    ~MainWindow() override;
 
     FileTableView* tableView() const { return m_table; }
     FileTableModel* tableModel() const { return m_model; }
@@ -34,8 +39,21 @@ public:
     QWidget* actionArea() const { return m_actionArea; }
     RenamePanel* renamePanel() const { return m_renamePanel; }
 
+    DocumentOpener* documentOpener() const { return m_opener; }
+    DocumentCommands* documentCommands() const { return m_documents; }
+    // The questions and alerts of the window and its action area go through this.
+    void setPrompter(std::unique_ptr<Prompter> prompter);
+
     // Lists the paths in the current mode, off the GUI thread.
     void addPaths(const QStringList& paths);
+    // Adds what the file manager put on the clipboard, as items opened with the application.
+    void pasteItems();
+    // Live preview off: the sheet of its settings, and on when the user agrees. On: off.
+    void showLivePreview();
+    void openPreferences();
+    void openPasteboardItemsSheet(const QStringList& paths);
+    // Opens a help page of the current language in the desktop's browser.
+    void showHelpPage(const QString& page);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -72,6 +90,11 @@ private:
     void showSkippedNames(const QStringList& paths);
     void showAttachedMessage(QAction* besideAction, const char* key);
     void openUndoSheet();
+    void updateWindowTitle();
+    void updateLivePreviewAction();
+    void selectAll();
+    void showAbout();
+    QLabel* createLanguageFlag();
 
     TavrinAppController* m_controller;
     FileTableModel* m_model;
@@ -81,6 +104,9 @@ private:
     QToolBar* m_toolBar = nullptr;
     ListModeSelector* m_modeSelector = nullptr;
     AttachedWindow* m_attached;
+    std::unique_ptr<Prompter> m_prompter;
+    DocumentCommands* m_documents;
+    DocumentOpener* m_opener;
 
     QAction* m_addFilesAction = nullptr;
     QAction* m_addFoldersAction = nullptr;
@@ -91,6 +117,16 @@ private:
     QAction* m_cancelAction = nullptr;
     QAction* m_undoAction = nullptr;
     QAction* m_quitAction = nullptr;
+    QAction* m_pasteItemsAction = nullptr;
+    QAction* m_selectAllAction = nullptr;
+    QAction* m_openProfileAction = nullptr;
+    QAction* m_saveProfileAction = nullptr;
+    QAction* m_saveProfileAsAction = nullptr;
+    QAction* m_defaultProfileAction = nullptr;
+    QAction* m_preferencesAction = nullptr;
+    QAction* m_livePreviewAction = nullptr;
+    QAction* m_helpAction = nullptr;
+    QAction* m_aboutAction = nullptr;
 
     QLabel* m_countLabel = nullptr;
     ElidedLabel* m_progressLabel = nullptr;

@@ -1,13 +1,18 @@
 #include "gui/app/TavrinAppController.h"
 
 #include "core/profiles/Preferences.h"
+#include "core/profiles/SettingsRecord.h"
+#include "core/rules/KeyedArchive.h"
 #include "core/text/LocalizedStrings.h"
+#include "gui/app/LivePreview.h"
 
 #include <QDateTime>
 #include <QDebug>
+#include <QFileInfo>
 #include <QLocale>
 #include <QMetaProperty>
 #include <QThread>
+#include <algorithm>
 #include <chrono>
 #include <exception>
 #include <future>
@@ -45,7 +50,10 @@ void logFailure(const char* operation, const std::exception& error)
 
 TavrinAppController::TavrinAppController(QObject* parent)
     : QObject(parent)
-    , m_logFolderPath(Preferences::defaults().defaultLogFolderPath)
+    , m_preferences(Preferences::defaults())
+    , m_userDefaults(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Palisade Soft"),
+          QStringLiteral("Tavrin3"))
+    , m_livePreview(new LivePreview(*this))
 {
     m_settings.resetToStartValues();
     connect(&m_settings, &Settings::isFoldersChanged, this, &TavrinAppController::modeSettingChanged);
@@ -97,6 +105,31 @@ void TavrinAppController::modeSettingChanged()
     emit modeChanged();
 }
 
+void TavrinAppController::loadFiles(const QStringList& paths)
+{
+    if (m_isExecuting || paths.isEmpty())
+        return;
+    const bool hasFolder = std::any_of(paths.cbegin(), paths.cend(), [](const QString& path) {
+        const QFileInfo info(path);
+        return info.isDir() && !info.isSymLink();
+    });
+    if (hasFolder) {
+        emit pasteboardItemsRequested(paths);
+        return;
+    }
+    setMode(ListMode::Files);
+    addFiles(paths);
+}
+
+bool TavrinAppController::addPastedItems(const QStringList& paths, bool folders, bool includeSubFolders)
+{
+    if (m_isExecuting)
+        return false;
+    setMode(folders ? ListMode::Folders : ListMode::Files);
+    setIncludeSubFolders(includeSubFolders);
+    return addFiles(paths);
+}
+
 bool TavrinAppController::addFiles(const QStringList& paths)
 {
     if (m_isExecuting || paths.isEmpty())
@@ -118,9 +151,28 @@ std::optional<ValidationFailure> TavrinAppController::preview()
         return failure;
     copyOptions(m_settings, m_workerSettings);
     m_previewOutcome = PreviewOutcome();
-    startWorker(localized("GENERATINGPREVIEWPLEASEWAIT"), [this] { runPreview(); },
+    startWorker(localized("GENERATINGPREVIEWPLEASEWAIT"), [this] { runPreview(-1, this); },
                 &TavrinAppController::finishPreview);
     return std::nullopt;
+}
+
+bool TavrinAppController::quickPreview(int limit)
+{
+    if (m_isExecuting || m_files.isEmpty())
+        return false;
+    // Normalising changes options; those changes must not arm another live preview.
+    m_isProfileLoading = true;
+    const std::optional<ValidationFailure> failure = validateAndNormalise(m_settings, m_settings.selectedTab());
+    m_isProfileLoading = false;
+    if (failure) {
+        emit progressMessage(LocalizedStrings::text(failure->messageKey));
+        return false;
+    }
+    copyOptions(m_settings, m_workerSettings);
+    m_previewOutcome = PreviewOutcome();
+    m_quickPreviewLimit = limit;
+    startQuietWorker([this, limit] { runPreview(limit, nullptr); }, &TavrinAppController::finishQuickPreview);
+    return true;
 }
 
 bool TavrinAppController::apply(const ContinueWithoutLogQuestion& continueWithoutLog)
@@ -132,7 +184,7 @@ bool TavrinAppController::apply(const ContinueWithoutLogQuestion& continueWithou
     setHasFilesForRenaming(false);
     startWorker(
         localized("RENAMINGITEMSPLEASEWAIT").arg(modeWordText()),
-        [this, folder = m_logFolderPath, continueWithoutLog] { runApply(folder, continueWithoutLog); },
+        [this, folder = m_preferences.defaultLogFolderPath, continueWithoutLog] { runApply(folder, continueWithoutLog); },
         &TavrinAppController::finishApply);
     return true;
 }
@@ -149,6 +201,29 @@ void TavrinAppController::startWorker(
     m_worker.reset(QThread::create(std::move(work)));
     connect(m_worker.get(), &QThread::finished, this, finish);
     m_worker->start();
+}
+
+// A live preview runs while the user goes on typing: nothing is disabled and no progress is
+// shown, but the list still belongs to the worker until it ends (list changes wait).
+void TavrinAppController::startQuietWorker(std::function<void()> work, void (TavrinAppController::*finish)())
+{
+    m_cancel = false;
+    m_snapshot = m_files.items();
+    m_isExecuting = true;
+    m_worker.reset(QThread::create(std::move(work)));
+    connect(m_worker.get(), &QThread::finished, this, finish);
+    m_worker->start();
+}
+
+// The records are the same rows as the copy the table showed, so only their new names
+// change: the selection and the scroll position stay.
+void TavrinAppController::endQuietWorker()
+{
+    m_worker->wait();
+    m_worker.reset();
+    m_isExecuting = false;
+    m_snapshot = std::vector<FileSystemItem>();
+    emit namesChanged();
 }
 
 // Back on the GUI thread once the worker is done: the table shows the list itself again.
@@ -175,12 +250,12 @@ void TavrinAppController::runScan(const QStringList& paths, const ScanOptions& o
 }
 
 // On the worker thread.
-void TavrinAppController::runPreview()
+void TavrinAppController::runPreview(int limit, ProgressObserver* observer)
 {
     try {
         const PropertyOptionValues values(m_workerSettings);
         Pipeline pipeline(m_files, values);
-        m_previewOutcome = pipeline.preview(m_cancel, this);
+        m_previewOutcome = pipeline.preview(m_cancel, observer, limit);
     } catch (const std::exception& error) {
         logFailure("doPreview", error);
     }
@@ -257,6 +332,17 @@ void TavrinAppController::finishPreview()
     if (!m_previewOutcome.actionSucceeded)
         emit progressMessage(m_previewOutcome.lastError);
     emit previewFinished();
+}
+
+// A live preview that left records out cannot be applied: renaming only the first records
+// of the list would surprise. A full preview is needed first.
+void TavrinAppController::finishQuickPreview()
+{
+    endQuietWorker();
+    const bool coveredAll = m_quickPreviewLimit < 0 || m_quickPreviewLimit >= shownCount();
+    setHasFilesForRenaming(coveredAll && m_previewOutcome.hasFilesForRenaming);
+    emit progressMessage(m_previewOutcome.actionSucceeded ? QString() : m_previewOutcome.lastError);
+    emit livePreviewFinished();
 }
 
 void TavrinAppController::finishApply()

@@ -1,7 +1,10 @@
 #include "core/log/LogRecovery.h"
 #include "core/profiles/Preferences.h"
 #include "core/text/LocalizedStrings.h"
+#include "gui/app/DocumentCommands.h"
+#include "gui/app/DocumentOpener.h"
 #include "gui/app/MainWindow.h"
+#include "gui/app/SingleInstance.h"
 #include "gui/app/TavrinAppController.h"
 
 #include <QApplication>
@@ -29,7 +32,7 @@ QStringList parsePaths(const QApplication& app)
     parser.setApplicationDescription(tavrin::localized("APPTITLE"));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("paths"), QStringLiteral("Files or folders to list."),
+    parser.addPositionalArgument(QStringLiteral("paths"), tavrin::localized("COMMANDLINEPATHS"),
                                  QStringLiteral("[PATH...]"));
     parser.process(app);
     return absolutePaths(parser.positionalArguments());
@@ -45,10 +48,17 @@ int main(int argc, char** argv)
     QApplication::setApplicationDisplayName(tavrin::localized("APPTITLE"));
     QApplication::setApplicationVersion(QStringLiteral(TAVRIN_VERSION));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/tavrin.svg")));
+    // Lets the desktop match the window with its launcher and icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.palisadesoft.Tavrin"));
     // Outside a desktop session Qt knows no icon theme; borrow a common one when present.
     QIcon::setFallbackThemeName(QStringLiteral("Adwaita"));
 
     const QStringList paths = parsePaths(app);
+
+    // A second launch hands its paths to the window already open.
+    tavrin::SingleInstance instance(tavrin::SingleInstance::defaultServerName());
+    if (instance.forwardToRunningInstance(paths))
+        return EXIT_SUCCESS;
 
     // Without its folders the application could not keep a log of what it renames.
     const tavrin::ApplicationSupport support = tavrin::prepareApplicationSupport();
@@ -59,10 +69,19 @@ int main(int argc, char** argv)
     tavrin::recoverInterruptedLogs(support.preferences.defaultLogFolderPath);
 
     tavrin::TavrinAppController controller;
-    controller.setLogFolderPath(support.preferences.defaultLogFolderPath);
+    controller.setPreferences(support.preferences);
+    const std::optional<tavrin::ProfileOutcome> lastProfileFailure = controller.applicationDidFinishLaunching();
     tavrin::MainWindow window(&controller);
     window.show();
-    if (!paths.isEmpty())
-        window.addPaths(paths);
+    if (lastProfileFailure)
+        window.documentCommands()->showProfileOutcome(*lastProfileFailure);
+
+    instance.listen();
+    QObject::connect(&instance, &tavrin::SingleInstance::pathsReceived, &window, [&window](const QStringList& received) {
+        window.documentOpener()->openFiles(received);
+        window.raise();
+        window.activateWindow();
+    });
+    window.documentOpener()->openFiles(paths);
     return app.exec();
 }

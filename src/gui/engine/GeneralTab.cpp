@@ -54,9 +54,10 @@ QComboBox* GeneralTab::makeCaseChooser(const char* optionKey)
             { "PROPERCASE", lettercase::Proper } });
 }
 
-QLineEdit* GeneralTab::makeTextField(const char* optionKey, const char* placeholderKey, int width)
+QLineEdit* GeneralTab::makeTextField(
+    const char* optionKey, const char* placeholderKey, int width, TextFieldFormatter::Kind kind)
 {
-    QLineEdit* field = m_binder->textField(optionKey, placeholderKey);
+    QLineEdit* field = m_binder->textField(optionKey, placeholderKey, kind);
     field->setFixedWidth(width);
     return field;
 }
@@ -117,8 +118,8 @@ void GeneralTab::buildLayout()
     addOption(FilenameMask, "GENERALMASK", "GENERALMASKTIP",
         { makeTextField("generalFilenameMask", "GENERALMASKPLACEHOLDER", kTextField) });
     addOption(ConvertWindowsCompatible, "GENERALWINDOWS", "GENERALWINDOWSTIP",
-        { makeTextField(
-            "generalConvertWindowsCompatibleString", "GENERALWINDOWSPLACEHOLDER", kNarrowField) });
+        { makeTextField("generalConvertWindowsCompatibleString", "GENERALWINDOWSPLACEHOLDER", kNarrowField,
+            TextFieldFormatter::Kind::SafeCharacters) });
 
     m_grid->setColumnMinimumWidth(kColumnsPerOption, kColumnGap);
     m_grid->setColumnStretch(1, 1);

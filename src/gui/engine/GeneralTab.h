@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gui/engine/ActionTab.h"
+#include "gui/ui/TextFieldFormatter.h"
 
 #include <QHash>
 #include <QList>
@@ -30,7 +31,8 @@ public:
 private:
     void buildLayout();
     QComboBox* makeCaseChooser(const char* optionKey);
-    QLineEdit* makeTextField(const char* optionKey, const char* placeholderKey, int width);
+    QLineEdit* makeTextField(const char* optionKey, const char* placeholderKey, int width,
+        TextFieldFormatter::Kind kind = TextFieldFormatter::Kind::Text);
     void addOption(int index, const char* labelKey, const char* toolTipKey, const QList<QWidget*>& inputs);
     void refreshFromSettings();
 

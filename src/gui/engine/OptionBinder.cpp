@@ -48,9 +48,10 @@ QLineEdit* OptionBinder::formattedField(
     return field;
 }
 
-QLineEdit* OptionBinder::textField(const char* optionKey, const char* placeholderKey)
+QLineEdit* OptionBinder::textField(
+    const char* optionKey, const char* placeholderKey, TextFieldFormatter::Kind kind)
 {
-    QLineEdit* field = formattedField(optionKey, TextFieldFormatter::Kind::Text, NameLength);
+    QLineEdit* field = formattedField(optionKey, kind, NameLength);
     if (placeholderKey)
         field->setPlaceholderText(localized(placeholderKey));
     return field;

@@ -41,7 +41,8 @@ public:
 
     explicit OptionBinder(Settings& settings, QObject* parent = nullptr);
 
-    QLineEdit* textField(const char* optionKey, const char* placeholderKey = nullptr);
+    QLineEdit* textField(const char* optionKey, const char* placeholderKey = nullptr,
+        TextFieldFormatter::Kind kind = TextFieldFormatter::Kind::Text);
     // Right-aligned, as numbers are.
     QLineEdit* numberField(const char* optionKey, TextFieldFormatter::Kind kind, int digits = PositionDigits);
     // The letters of a sequence's first value.

@@ -3,6 +3,7 @@ target_sources(tavrin_gui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ActionTabs.cpp
   ${CMAKE_CURRENT_LIST_DIR}/GeneralTab.cpp
   ${CMAKE_CURRENT_LIST_DIR}/InsertDeleteTab.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/LivePreviewSheet.cpp
   ${CMAKE_CURRENT_LIST_DIR}/OptionBinder.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RenamePanel.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ReplaceRemoveTab.cpp

@@ -43,6 +43,10 @@ FileTableModel::FileTableModel(TavrinAppController* controller, QObject* parent)
     connect(controller, &TavrinAppController::listChanged, this, &FileTableModel::endResetModel);
     connect(controller, &TavrinAppController::orderAboutToChange, this, [this] { emit layoutAboutToBeChanged(); });
     connect(controller, &TavrinAppController::orderChanged, this, [this] { emit layoutChanged(); });
+    connect(controller, &TavrinAppController::namesChanged, this, [this] {
+        if (rowCount() > 0)
+            emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+    });
 }
 
 int FileTableModel::rowCount(const QModelIndex& parent) const

@@ -1,5 +1,7 @@
 #include "gui/log/HelpPage.h"
 
+#include "core/text/LocalizedStrings.h"
+
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -7,20 +9,44 @@
 
 namespace tavrin {
 
+namespace {
+
+QString resourcePage(const QString& language, const QString& name)
+{
+    return QStringLiteral(":/help/%1/%2").arg(language, name);
+}
+
+bool copyPage(const QString& from, const QString& to)
+{
+    QFile page(from);
+    if (!page.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray content = page.readAll();
+    QSaveFile copy(to);
+    return copy.open(QIODevice::WriteOnly) && copy.write(content) == content.size() && copy.commit();
+}
+
+} // namespace
+
 QString helpPageFile(const QString& name)
 {
-    QFile page(QStringLiteral(":/help/") + name);
-    if (!page.open(QIODevice::ReadOnly))
+    const QString language = LocalizedStrings::language();
+    QStringList pages = QDir(QStringLiteral(":/help/en")).entryList(QDir::Files)
+        + QDir(QStringLiteral(":/help/") + language).entryList(QDir::Files);
+    pages.removeDuplicates();
+    if (!pages.contains(name))
         return {};
-    const QByteArray content = page.readAll();
-    const QString folder
-        = QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + QStringLiteral("/help");
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::CacheLocation)
+        + QStringLiteral("/help/") + language;
     if (!QDir().mkpath(folder))
         return {};
-    QSaveFile copy(folder + QLatin1Char('/') + name);
-    if (!copy.open(QIODevice::WriteOnly) || copy.write(content) != content.size() || !copy.commit())
-        return {};
-    return copy.fileName();
+    for (const QString& page : pages) {
+        const QString translated = resourcePage(language, page);
+        const QString from = QFile::exists(translated) ? translated : resourcePage(QStringLiteral("en"), page);
+        if (!copyPage(from, folder + QLatin1Char('/') + page))
+            return {};
+    }
+    return folder + QLatin1Char('/') + name;
 }
 
 } // namespace tavrin

@@ -10,6 +10,8 @@ public:
     bool confirmRename(QWidget* parent) override;
     bool continueWithoutLog(QWidget* parent) override;
     void warn(QWidget* parent, const QString& title, const QString& message) override;
+    void inform(QWidget* parent, const QString& title, const QString& message) override;
+    bool askYesNo(QWidget* parent, const QString& title, const QString& message) override;
 };
 
 } // namespace tavrin

@@ -28,6 +28,24 @@ QString lettersKept(const QString& typed)
     return QString(first, last.base() - first);
 }
 
+bool isUnsafeCharacter(QChar c)
+{
+    return QStringView(u"/\\:*?\"<>|").contains(c);
+}
+
+// Like the letters, trimming works at the ends only.
+QString safeCharactersKept(const QString& typed)
+{
+    const QString lower = typed.toLower();
+    qsizetype first = 0;
+    qsizetype end = lower.size();
+    while (first < end && isUnsafeCharacter(lower[first]))
+        ++first;
+    while (end > first && isUnsafeCharacter(lower[end - 1]))
+        --end;
+    return lower.mid(first, end - first);
+}
+
 QString digitsKept(const QString& typed)
 {
     QString digits;
@@ -46,6 +64,8 @@ QString kept(Kind kind, const QString& typed)
         return digitsKept(typed);
     case Kind::Letters:
         return lettersKept(typed);
+    case Kind::SafeCharacters:
+        return safeCharactersKept(typed);
     case Kind::Text:
         break;
     }
@@ -62,6 +82,7 @@ QString fallback(Kind kind, const QString& kept)
         return toInteger(kept) == 0 ? QStringLiteral("1") : QString();
     case Kind::Letters:
         return kept.isEmpty() ? QStringLiteral("a") : QString();
+    case Kind::SafeCharacters:
     case Kind::Text:
         break;
     }

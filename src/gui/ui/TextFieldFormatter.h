@@ -24,6 +24,9 @@ public:
         // The first value of a letter sequence: lower-cased, cut at both ends to the
         // lower-case letters, "a" when none is left.
         Letters,
+        // Text that stands in for the characters other systems refuse in names: lower-cased,
+        // and cut at both ends of / \\ : * ? " < > | so it cannot bring them back.
+        SafeCharacters,
     };
 
     // Becomes the field's child and limits it to `maximumLength` characters.

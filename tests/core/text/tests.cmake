@@ -9,3 +9,7 @@ qt_add_resources(test_localized_strings localized_strings_test_tables
   BASE ${CMAKE_CURRENT_LIST_DIR}/data
   FILES ${CMAKE_CURRENT_LIST_DIR}/data/en/localizedstringstest.json
         ${CMAKE_CURRENT_LIST_DIR}/data/fr/localizedstringstest.json)
+
+# Reads src/ to match the tables against the keys the code uses.
+tavrin_add_test(test_string_tables SOURCES ${CMAKE_CURRENT_LIST_DIR}/StringTablesTest.cpp)
+target_compile_definitions(test_string_tables PRIVATE TAVRIN_SOURCE_DIR="${PROJECT_SOURCE_DIR}")

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <functional>
+
+class QWidget;
+
+namespace tavrin {
+
+class Prompter;
+class TavrinAppController;
+struct ProfileOutcome;
+
+// The commands that open and save profiles, and what happens to rule files and profiles
+// opened with the application. They ask their questions through the window's prompter.
+class DocumentCommands : public QObject {
+    Q_OBJECT
+
+public:
+    // Chooses a file to open or a name to save under; empty when the user cancelled.
+    using FileChooser = std::function<QString(QWidget* parent, const QString& title, const QString& folder)>;
+
+    DocumentCommands(TavrinAppController* controller, QWidget* window);
+
+    void setPrompter(Prompter* prompter) { m_prompter = prompter; }
+    void setFileChoosers(FileChooser openChooser, FileChooser saveChooser);
+
+    void openProfile();
+    // Saves to the profile in use, or asks for a name when there is none.
+    void saveProfile();
+    void saveProfileAs();
+    void loadDefaultProfile();
+
+    // A profile opened with the application replaces the options only when the user agrees.
+    void openProfileDocument(const QString& path);
+    // A rule file opened with the application joins the rules library: after a question
+    // when the library already holds a rule of that name.
+    void openRuleDocument(const QString& path);
+
+    // Tells why a profile could not be opened; nothing for one that opened.
+    void showProfileOutcome(const ProfileOutcome& outcome);
+
+private:
+    void saveProfileTo(const QString& path);
+
+    TavrinAppController* m_controller;
+    QWidget* m_window;
+    Prompter* m_prompter = nullptr;
+    FileChooser m_openChooser;
+    FileChooser m_saveChooser;
+};
+
+} // namespace tavrin

@@ -1,0 +1,192 @@
+// The session side of the controller: what it keeps between runs, the profile in use and the
+// preferences. Kept apart from the list and worker side so each stays readable.
+
+#include "gui/app/TavrinAppController.h"
+
+#include "core/profiles/SettingsRecord.h"
+#include "core/rules/KeyedArchive.h"
+#include "core/text/LocalizedStrings.h"
+#include "gui/app/LivePreview.h"
+
+#include <QDebug>
+#include <QFileInfo>
+
+namespace tavrin {
+
+namespace {
+
+// Profile loading sets the flag for its whole length, whatever way it ends.
+class ProfileLoading {
+public:
+    explicit ProfileLoading(bool& flag)
+        : m_flag(flag)
+    {
+        m_flag = true;
+    }
+    ~ProfileLoading() { m_flag = false; }
+    ProfileLoading(const ProfileLoading&) = delete;
+    ProfileLoading& operator=(const ProfileLoading&) = delete;
+
+private:
+    bool& m_flag;
+};
+
+ProfileOutcome loadFailure(ProfileLoadResult result, const QString& path, const QString& reason)
+{
+    const char* key = result == ProfileLoadResult::Incompatible ? "PROFILEINCOMPATIBLE" : "PROFILELOADFAILED";
+    QString message = localized(key).arg(QFileInfo(path).fileName());
+    if (!reason.isEmpty())
+        message += QLatin1Char('\n') + reason;
+    return {result, message};
+}
+
+} // namespace
+
+// The launch: the options start from their start values; the profile in use at the last
+// quit is opened again, or else the options of the last quit are applied.
+std::optional<ProfileOutcome> TavrinAppController::applicationDidFinishLaunching()
+{
+    std::optional<ProfileOutcome> failure;
+    restoreRules();
+    const QString lastProfile = m_userDefaults.value(QLatin1String(userdefaults::LastProfile)).toString();
+    if (!lastProfile.isEmpty()) {
+        const ProfileOutcome outcome = setCurrentSettings(lastProfile);
+        if (outcome.result != ProfileLoadResult::Loaded) {
+            m_userDefaults.remove(QLatin1String(userdefaults::LastProfile));
+            failure = outcome;
+        }
+    }
+    if (m_currProfileFile.isEmpty()) {
+        const QVariantMap record = m_userDefaults.value(QLatin1String(userdefaults::Defaults)).toMap();
+        const ProfileLoading loading(m_isProfileLoading);
+        QString error;
+        if (!record.isEmpty() && !setSettings(m_settings, record, &error))
+            qWarning().noquote() << QStringLiteral("Error in applicationDidFinishLaunching : %1").arg(error);
+    }
+    restoreLivePreview();
+    m_userDefaults.sync();
+    return failure;
+}
+
+// A rule chain that cannot be read back is dropped, so that the next start does not trip
+// over it again.
+void TavrinAppController::restoreRules()
+{
+    m_rules.clear();
+    const QVariant stored = m_userDefaults.value(QLatin1String(userdefaults::LastRule));
+    if (!stored.isValid())
+        return;
+    const std::optional<QVariant> rules = keyedUnarchive(stored.toByteArray());
+    if (rules && rules->typeId() == QMetaType::QVariantList) {
+        m_rules = rules->toList();
+        return;
+    }
+    qWarning("Error in applicationDidFinishLaunching : the saved rule chain cannot be read; it is dropped");
+    m_userDefaults.remove(QLatin1String(userdefaults::LastRule));
+}
+
+void TavrinAppController::restoreLivePreview()
+{
+    const bool enabled = m_userDefaults.value(QLatin1String(userdefaults::LivePreview), false).toBool();
+    const bool allFiles = m_userDefaults.value(QLatin1String(userdefaults::LivePreviewAllFiles), false).toBool();
+    const QString limit = m_userDefaults
+                              .value(QLatin1String(userdefaults::LivePreviewFilesLimit),
+                                  QString::fromLatin1(LivePreview::DefaultFilesLimit))
+                              .toString();
+    setLivePreviewCoverage(allFiles, limit);
+    setLivePreview(enabled);
+}
+
+void TavrinAppController::applicationShouldTerminate()
+{
+    saveProfileInUseWhenAutomatic();
+    m_userDefaults.setValue(QLatin1String(userdefaults::Defaults), getCurrentSettings(m_settings));
+    if (m_currProfileFile.isEmpty())
+        m_userDefaults.remove(QLatin1String(userdefaults::LastProfile));
+    else
+        m_userDefaults.setValue(QLatin1String(userdefaults::LastProfile), m_currProfileFile);
+    m_userDefaults.setValue(QLatin1String(userdefaults::LastRule), keyedArchive(m_rules));
+    m_userDefaults.sync();
+}
+
+void TavrinAppController::saveProfileInUseWhenAutomatic()
+{
+    if (m_currProfileFile.isEmpty() || !m_preferences.automaticSaveCurrProfile)
+        return;
+    QString error;
+    if (!saveProfileFile(m_settings, m_currProfileFile, &error))
+        qWarning().noquote() << QStringLiteral("Error in saveProfile : %1").arg(error);
+}
+
+ProfileOutcome TavrinAppController::setCurrentSettings(const QString& path)
+{
+    if (m_isExecuting)
+        return {ProfileLoadResult::Failed, localized("PROFILELOADBUSY")};
+    if (path != m_currProfileFile)
+        saveProfileInUseWhenAutomatic();
+    ProfileLoadResult result = ProfileLoadResult::Failed;
+    QString error;
+    {
+        const ProfileLoading loading(m_isProfileLoading);
+        result = loadProfileFile(m_settings, path, &error);
+    }
+    if (result != ProfileLoadResult::Loaded)
+        return loadFailure(result, path, error);
+    setCurrProfileFile(path);
+    emit currentSettingsApplied();
+    return {};
+}
+
+bool TavrinAppController::saveProfile(const QString& path, QString* error)
+{
+    if (!saveProfileFile(m_settings, path, error))
+        return false;
+    setCurrProfileFile(path);
+    return true;
+}
+
+void TavrinAppController::loadDefaultProfile()
+{
+    if (m_isExecuting)
+        return;
+    saveProfileInUseWhenAutomatic();
+    {
+        const ProfileLoading loading(m_isProfileLoading);
+        const Settings::ChangeBatch batch(m_settings);
+        m_settings.resetToDefaults();
+    }
+    setCurrProfileFile(QString());
+    m_userDefaults.remove(QLatin1String(userdefaults::LastProfile));
+    emit currentSettingsApplied();
+}
+
+void TavrinAppController::setCurrProfileFile(const QString& path)
+{
+    if (path == m_currProfileFile)
+        return;
+    m_currProfileFile = path;
+    emit currProfileFileChanged(path);
+}
+
+bool TavrinAppController::applyPreferences(const Preferences& preferences, QString* error)
+{
+    m_preferences = preferences;
+    return savePreferences(preferences, error);
+}
+
+void TavrinAppController::setLivePreview(bool enabled)
+{
+    m_livePreview->setLivePreviewEnabled(enabled);
+    m_userDefaults.setValue(QLatin1String(userdefaults::LivePreview), enabled);
+    m_userDefaults.sync();
+}
+
+void TavrinAppController::setLivePreviewCoverage(bool allFiles, const QString& filesLimit)
+{
+    m_livePreview->setCoverage(allFiles, filesLimit);
+    m_userDefaults.setValue(QLatin1String(userdefaults::LivePreviewAllFiles), allFiles);
+    m_userDefaults.setValue(QLatin1String(userdefaults::LivePreviewFilesLimit), filesLimit);
+    m_userDefaults.sync();
+}
+
+} // namespace tavrin

@@ -1,0 +1,191 @@
+#include "gui/list/PasteboardItemsSheet.h"
+
+#include "core/text/LocalizedStrings.h"
+#include "gui/list/PastedItemsModel.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace tavrin {
+
+PasteboardItemsSheet::PasteboardItemsSheet(const QStringList& paths, QWidget* parent)
+    : QDialog(parent)
+    , m_model(new PastedItemsModel(paths, this))
+{
+    setObjectName(QStringLiteral("pasteboardItemsSheet"));
+    setWindowTitle(localized("PASTEDITEMSTITLE"));
+    setWindowModality(Qt::WindowModal);
+
+    auto* intro = new QLabel(localized("PASTEDITEMSINTRO"));
+    intro->setWordWrap(true);
+    m_countLabel = new QLabel;
+    m_countLabel->setObjectName(QStringLiteral("pastedCountLabel"));
+    m_removeButton = new QPushButton(localized("REMOVE"));
+    m_removeButton->setObjectName(QStringLiteral("removeButton"));
+    m_removeButton->setToolTip(localized("REMOVETOOLTIP"));
+    m_removeButton->setAutoDefault(false);
+    connect(m_removeButton, &QPushButton::clicked, this, &PasteboardItemsSheet::removeSelectedItems);
+
+    auto* underTable = new QHBoxLayout;
+    underTable->addWidget(m_countLabel, 1);
+    underTable->addWidget(m_removeButton);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(intro);
+    layout->addWidget(createTable(), 1);
+    layout->addLayout(underTable);
+    layout->addSpacing(6);
+    layout->addWidget(createOptions());
+    layout->addSpacing(6);
+    layout->addWidget(createButtons());
+
+    connect(m_model, &QAbstractItemModel::rowsRemoved, this, &PasteboardItemsSheet::updateCountLine);
+    connect(m_model, &QAbstractItemModel::rowsRemoved, this, &PasteboardItemsSheet::updateButtons);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        &PasteboardItemsSheet::updateButtons);
+    updateCountLine();
+    updateButtons();
+    resize(640, 440);
+    m_table->setFocus();
+}
+
+QTableView* PasteboardItemsSheet::createTable()
+{
+    m_table = new QTableView;
+    m_table->setObjectName(QStringLiteral("pastedItemsTable"));
+    m_table->setModel(m_model);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setAlternatingRowColors(true);
+    m_table->setShowGrid(false);
+    m_table->setWordWrap(false);
+    m_table->setTabKeyNavigation(false);
+    m_table->setTextElideMode(Qt::ElideMiddle);
+    m_table->verticalHeader()->hide();
+    // Fixed row heights spare the view from measuring every row of a long list.
+    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 8);
+    QHeaderView* header = m_table->horizontalHeader();
+    header->setHighlightSections(false);
+    header->setStretchLastSection(true);
+    header->resizeSection(PastedItemsModel::NameColumn, header->fontMetrics().averageCharWidth() * 32);
+
+    auto* deleteAction = new QAction(m_table);
+    deleteAction->setShortcut(QKeySequence::Delete);
+    deleteAction->setShortcutContext(Qt::WidgetShortcut);
+    connect(deleteAction, &QAction::triggered, this, &PasteboardItemsSheet::removeSelectedItems);
+    m_table->addAction(deleteAction);
+    return m_table;
+}
+
+QWidget* PasteboardItemsSheet::createOptions()
+{
+    m_filesButton = new QRadioButton(localized("PASTEDRENAMEFILES"));
+    m_filesButton->setObjectName(QStringLiteral("renameFilesButton"));
+    m_filesButton->setToolTip(localized("PASTEDRENAMEFILESTOOLTIP"));
+    m_filesButton->setChecked(true);
+    m_foldersButton = new QRadioButton(localized("PASTEDRENAMEFOLDERS"));
+    m_foldersButton->setObjectName(QStringLiteral("renameFoldersButton"));
+    m_foldersButton->setToolTip(localized("PASTEDRENAMEFOLDERSTOOLTIP"));
+    m_includeSubFoldersBox = new QCheckBox(localized("INCLUDESUBFOLDERS"));
+    m_includeSubFoldersBox->setObjectName(QStringLiteral("includeSubFoldersBox"));
+    m_includeSubFoldersBox->setToolTip(localized("INCLUDESUBFOLDERSTOOLTIP"));
+
+    auto* options = new QWidget;
+    auto* layout = new QHBoxLayout(options);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(12);
+    layout->addWidget(m_filesButton);
+    layout->addWidget(m_foldersButton);
+    layout->addSpacing(12);
+    layout->addWidget(m_includeSubFoldersBox);
+    layout->addStretch(1);
+    return options;
+}
+
+QDialogButtonBox* PasteboardItemsSheet::createButtons()
+{
+    // Made inside the sheet at once, so that the default button below is the sheet's.
+    auto* box = new QDialogButtonBox(QDialogButtonBox::Help | QDialogButtonBox::Cancel, this);
+    QPushButton* help = box->button(QDialogButtonBox::Help);
+    help->setObjectName(QStringLiteral("helpButton"));
+    help->setText(localized("HELP"));
+    help->setShortcut(QKeySequence::HelpContents);
+    box->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cancelButton"));
+    box->button(QDialogButtonBox::Cancel)->setText(localized("CANCEL"));
+    m_addButton = box->addButton(localized("PASTEDADDTOLIST"), QDialogButtonBox::AcceptRole);
+    m_addButton->setObjectName(QStringLiteral("addToListButton"));
+    m_addButton->setToolTip(localized("PASTEDADDTOLISTTOOLTIP"));
+    m_addButton->setDefault(true);
+    connect(box, &QDialogButtonBox::accepted, this, &PasteboardItemsSheet::accept);
+    connect(box, &QDialogButtonBox::rejected, this, &PasteboardItemsSheet::reject);
+    connect(box, &QDialogButtonBox::helpRequested, this, &PasteboardItemsSheet::helpRequested);
+    return box;
+}
+
+QStringList PasteboardItemsSheet::paths() const
+{
+    return m_model->paths();
+}
+
+bool PasteboardItemsSheet::isFolders() const
+{
+    return m_foldersButton->isChecked();
+}
+
+bool PasteboardItemsSheet::isIncludeSubFolders() const
+{
+    return m_includeSubFoldersBox->isChecked();
+}
+
+// Removed from the bottom up, a run of adjacent rows at a time, so the rows still to go keep
+// their numbers; the row after the first one removed is selected, so Delete can go on.
+void PasteboardItemsSheet::removeSelectedItems()
+{
+    QList<int> rows;
+    for (const QModelIndex& index : m_table->selectionModel()->selectedRows())
+        rows.append(index.row());
+    if (rows.isEmpty())
+        return;
+    std::sort(rows.begin(), rows.end(), std::greater<int>());
+    // rows[runStart] is the bottom row of a run, rows[runEnd] its top.
+    for (qsizetype runStart = 0; runStart < rows.size();) {
+        qsizetype runEnd = runStart;
+        while (runEnd + 1 < rows.size() && rows[runEnd + 1] == rows[runEnd] - 1)
+            ++runEnd;
+        m_model->removeRows(rows[runEnd], int(runEnd - runStart + 1));
+        runStart = runEnd + 1;
+    }
+    const int next = std::min(rows.constLast(), m_model->rowCount() - 1);
+    if (next >= 0)
+        m_table->selectRow(next);
+}
+
+void PasteboardItemsSheet::updateCountLine()
+{
+    const QLocale locale;
+    m_countLabel->setText(
+        localized("PASTEDITEMSCOUNT")
+            .arg(locale.toString(m_model->rowCount()), locale.toString(m_model->fileCount()),
+                locale.toString(m_model->folderCount())));
+}
+
+void PasteboardItemsSheet::updateButtons()
+{
+    m_removeButton->setEnabled(m_table->selectionModel()->hasSelection());
+    m_addButton->setEnabled(m_model->rowCount() > 0);
+}
+
+} // namespace tavrin
