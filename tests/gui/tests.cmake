@@ -20,3 +20,5 @@ tavrin_add_test(test_gui_preferences_sheet GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}
 tavrin_add_test(test_gui_live_preview_sheet GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/LivePreviewSheetTest.cpp)
 tavrin_add_test(test_gui_pasteboard_items_sheet GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/PasteboardItemsSheetTest.cpp)
 tavrin_add_test(test_gui_session GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/SessionTest.cpp)
+tavrin_add_test(test_gui_document_commands GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/DocumentCommandsTest.cpp)
+tavrin_add_test(test_gui_outside_items GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/OutsideItemsTest.cpp)

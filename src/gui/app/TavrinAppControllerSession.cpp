@@ -33,8 +33,10 @@ private:
 
 ProfileOutcome loadFailure(ProfileLoadResult result, const QString& path, const QString& reason)
 {
-    const char* key = result == ProfileLoadResult::Incompatible ? "PROFILEINCOMPATIBLE" : "PROFILELOADFAILED";
-    QString message = localized(key).arg(QFileInfo(path).fileName());
+    const QString name = QFileInfo(path).fileName();
+    if (result == ProfileLoadResult::Incompatible)
+        return {result, localized("PROFILEINCOMPATIBLE").arg(name)};
+    QString message = localized("PROFILELOADFAILED").arg(name);
     if (!reason.isEmpty())
         message += QLatin1Char('\n') + reason;
     return {result, message};
