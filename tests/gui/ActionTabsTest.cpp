@@ -38,6 +38,7 @@ protected:
         ASSERT_EQ(settings.selectedTab(), tabs::AlphaNumeric);
         tabWidget.addActionTab(general, tabs::General, QStringLiteral("General"));
         tabWidget.addActionTab(replace, tabs::ReplaceRemove, QStringLiteral("Replace"));
+        tabWidget.showSelectedTab();
         tabWidget.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&tabWidget));
     }
@@ -67,6 +68,19 @@ TEST_F(ActionTabsTest, ASelectedTabFromTheSettingsShowsItsPage)
 
     // A profile saved on a tab this window lacks: the visible page stays and says so.
     settings.setSelectedTab(tabs::Photo);
+    EXPECT_EQ(tabWidget.currentWidget(), replace);
+    EXPECT_EQ(settings.selectedTab(), tabs::ReplaceRemove);
+}
+
+TEST(ActionTabs, TheTabOfTheLastSessionIsShownEvenWhenItsPageComesLater)
+{
+    Settings settings;
+    settings.setSelectedTab(tabs::ReplaceRemove);
+    ActionTabs tabWidget { settings };
+    tabWidget.addActionTab(new GeneralTab(settings), tabs::General, QStringLiteral("General"));
+    auto* replace = new OneFieldTab;
+    tabWidget.addActionTab(replace, tabs::ReplaceRemove, QStringLiteral("Replace"));
+    tabWidget.showSelectedTab();
     EXPECT_EQ(tabWidget.currentWidget(), replace);
     EXPECT_EQ(settings.selectedTab(), tabs::ReplaceRemove);
 }

@@ -14,8 +14,11 @@ LivePreview::LivePreview(TavrinAppController& controller)
     m_quickPreviewTimer.setSingleShot(true);
     m_quickPreviewTimer.setInterval(DelayMilliseconds);
     connect(&m_quickPreviewTimer, &QTimer::timeout, this, &LivePreview::quickPreviewTimerMethod);
-    connect(&controller.settings(), &Settings::settingsChanged, this, &LivePreview::optionsChanged);
-    connect(&controller, &TavrinAppController::currentSettingsApplied, this, &LivePreview::optionsChanged);
+    connect(&controller.settings(), &Settings::settingsChanged, this, &LivePreview::scheduleQuickPreview);
+    connect(&controller, &TavrinAppController::currentSettingsApplied, this, &LivePreview::scheduleQuickPreview);
+    // New items, and a new order that sequences follow, change the names too.
+    connect(&controller, &TavrinAppController::addFinished, this, &LivePreview::scheduleQuickPreview);
+    connect(&controller, &TavrinAppController::orderChanged, this, &LivePreview::scheduleQuickPreview);
 }
 
 int LivePreview::recordLimit() const
@@ -29,7 +32,7 @@ void LivePreview::setLivePreviewEnabled(bool enabled)
         return;
     m_isLivePreviewEnabled = enabled;
     if (enabled)
-        optionsChanged();
+        scheduleQuickPreview();
     else
         m_quickPreviewTimer.stop();
     emit stateChanged();
@@ -44,7 +47,7 @@ void LivePreview::setCoverage(bool allFiles, const QString& filesLimit)
 
 // A profile being applied changes many options at once; the preview waits for the end,
 // where the controller asks for one.
-void LivePreview::optionsChanged()
+void LivePreview::scheduleQuickPreview()
 {
     if (!m_isLivePreviewEnabled || m_controller.isProfileLoading() || m_controller.shownCount() == 0)
         return;

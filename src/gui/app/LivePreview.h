@@ -8,7 +8,7 @@ namespace tavrin {
 
 class TavrinAppController;
 
-// Previews by itself shortly after the options change, so the New Name column follows what
+// Previews by itself shortly after the options or the listed items change, so the New Name column follows what
 // the user types. Changes that come in quick succession collapse into one preview 0.4 s
 // after the last of them. Only the first records up to the limit are previewed unless the
 // user asked for all of them, so that a long list does not slow typing down.
@@ -38,7 +38,7 @@ signals:
     void stateChanged();
 
 private:
-    void optionsChanged();
+    void scheduleQuickPreview();
     void quickPreviewTimerMethod();
 
     TavrinAppController& m_controller;

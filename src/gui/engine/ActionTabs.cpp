@@ -19,8 +19,10 @@ void ActionTabs::addActionTab(ActionTab* page, int tabNumber, const QString& tit
 {
     const int index = addTab(page, title);
     tabBar()->setTabData(index, tabNumber);
-    // The first page added is shown by QTabWidget before its number is known.
-    currentPageChanged(currentIndex());
+    // The settings may name a tab whose page comes later: the setting waits for
+    // showSelectedTab() once every page is there, instead of following the first page.
+    if (tabNumber == m_settings.selectedTab())
+        setCurrentIndex(index);
 }
 
 ActionTab* ActionTabs::pageForTab(int tabNumber) const
@@ -44,7 +46,7 @@ void ActionTabs::currentPageChanged(int index)
         m_settings.setSelectedTab(tabNumber.toInt());
 }
 
-// A profile names the tab it was saved on. When this window has no such page, the setting
+// The settings (a profile, the last session) name the tab they were saved on. When this window has no such page, the setting
 // goes back to the visible page: a preview must never run an action the user cannot see.
 void ActionTabs::showSelectedTab()
 {

@@ -17,6 +17,9 @@ public:
     explicit ActionTabs(Settings& settings, QWidget* parent = nullptr);
 
     void addActionTab(ActionTab* page, int tabNumber, const QString& title);
+    // Shows the page of the selected tab; when there is none, the visible page becomes the
+    // selected tab. Called once the pages are added, and whenever the setting changes.
+    void showSelectedTab();
 
     // The page of a tab number, or null when it has none.
     ActionTab* pageForTab(int tabNumber) const;
@@ -24,7 +27,6 @@ public:
 
 private:
     void currentPageChanged(int index);
-    void showSelectedTab();
 
     Settings& m_settings;
 };

@@ -77,6 +77,7 @@ RenamePanel::RenamePanel(
     m_tabs->addActionTab(new InsertDeleteTab(settings), tabs::InsertDelete, localized("INSERTDELETETAB"));
     m_tabs->addActionTab(new ReplaceRemoveTab(settings), tabs::ReplaceRemove, localized("REPLACEREMOVETAB"));
     m_tabs->addActionTab(new GeneralTab(settings), tabs::General, localized("GENERALTAB"));
+    m_tabs->showSelectedTab();
     createActions();
 
     auto* layout = new QVBoxLayout(this);
