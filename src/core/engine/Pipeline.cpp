@@ -10,6 +10,7 @@
 #include "core/text/NameParts.h"
 
 #include <QDateTime>
+#include <QLocale>
 #include <exception>
 #include <memory>
 #include <optional>
@@ -299,7 +300,7 @@ ApplyOutcome Pipeline::applyRenames(const QString& logFolder, const ContinueWith
 
 QString timeTakenText(double seconds, const char* key)
 {
-    return localized("TIMETAKEN").arg(QString::number(seconds, 'f', 2), localized(key));
+    return localized("TIMETAKEN").arg(QLocale().toString(seconds, 'f', 2), localized(key));
 }
 
 }  // namespace tavrin

@@ -257,12 +257,6 @@ void MainWindow::createToolBar()
     m_toolBar->addSeparator();
     m_toolBar->addAction(m_undoAction);
     m_toolBar->addAction(m_livePreviewAction);
-
-    auto* spacer = new QWidget(m_toolBar);
-    spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    m_toolBar->addWidget(spacer);
-    m_modeSelector = new ListModeSelector(m_toolBar);
-    m_toolBar->addWidget(m_modeSelector);
 }
 
 QWidget* MainWindow::createCentralArea()
@@ -288,9 +282,13 @@ QWidget* MainWindow::createCentralArea()
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 0);
 
+    // Above the list rather than in the toolbar, so that longer translations of the toolbar's
+    // buttons never push it out of sight.
+    m_modeSelector = new ListModeSelector;
     auto* central = new QWidget;
     auto* layout = new QVBoxLayout(central);
-    layout->setContentsMargins(6, 6, 6, 0);
+    layout->setContentsMargins(6, 4, 6, 0);
+    layout->addWidget(m_modeSelector, 0, Qt::AlignLeft);
     layout->addWidget(splitter);
     return central;
 }
