@@ -6,15 +6,12 @@
 #include "gui/app/DocumentCommands.h"
 #include "gui/app/DocumentOpener.h"
 #include "gui/app/LivePreview.h"
-#include "gui/app/PreferencesSheet.h"
 #include "gui/app/TavrinAppController.h"
-#include "gui/engine/LivePreviewSheet.h"
+#include "gui/app/WindowSheets.h"
 #include "gui/engine/RenamePanel.h"
 #include "gui/list/FileTableModel.h"
 #include "gui/list/FileTableView.h"
 #include "gui/list/ListModeSelector.h"
-#include "gui/list/PasteboardItemsSheet.h"
-#include "gui/log/HelpPage.h"
 #include "gui/log/UndoSheetController.h"
 #include "gui/ui/AttachedWindow.h"
 #include "gui/ui/ElidedLabel.h"
@@ -25,7 +22,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QFileDialog>
@@ -40,10 +36,8 @@
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QMessageBox>
 #include <QStyle>
 #include <QToolBar>
-#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -100,8 +94,10 @@ MainWindow::MainWindow(TavrinAppController* controller, QWidget* parent)
     , m_prompter(std::make_unique<MessageBoxPrompter>())
     , m_documents(new DocumentCommands(controller, this))
     , m_opener(new DocumentOpener(*controller, this))
+    , m_sheets(new WindowSheets(controller, this))
 {
     m_documents->setPrompter(m_prompter.get());
+    m_sheets->setPrompter(m_prompter.get());
     setWindowIcon(QIcon(QStringLiteral(":/icons/tavrin.svg")));
     m_attached->setObjectName(QStringLiteral("attachedWindow"));
 
@@ -128,6 +124,7 @@ void MainWindow::setPrompter(std::unique_ptr<Prompter> prompter)
 {
     m_prompter = std::move(prompter);
     m_documents->setPrompter(m_prompter.get());
+    m_sheets->setPrompter(m_prompter.get());
 }
 
 void MainWindow::createActions()
@@ -195,10 +192,14 @@ void MainWindow::createActions()
     connect(m_saveProfileAction, &QAction::triggered, m_documents, &DocumentCommands::saveProfile);
     connect(m_saveProfileAsAction, &QAction::triggered, m_documents, &DocumentCommands::saveProfileAs);
     connect(m_defaultProfileAction, &QAction::triggered, m_documents, &DocumentCommands::loadDefaultProfile);
-    connect(m_preferencesAction, &QAction::triggered, this, &MainWindow::openPreferences);
-    connect(m_livePreviewAction, &QAction::triggered, this, &MainWindow::showLivePreview);
-    connect(m_helpAction, &QAction::triggered, this, [this] { showHelpPage(QStringLiteral("main.html")); });
-    connect(m_aboutAction, &QAction::triggered, this, &MainWindow::showAbout);
+    connect(m_preferencesAction, &QAction::triggered, m_sheets, &WindowSheets::openPreferences);
+    connect(m_livePreviewAction, &QAction::triggered, this, [this] {
+        // The action shows the state, not the click, until the user has chosen.
+        updateLivePreviewAction();
+        m_sheets->showLivePreview();
+    });
+    connect(m_helpAction, &QAction::triggered, this, [this] { m_sheets->showHelpPage(QStringLiteral("main.html")); });
+    connect(m_aboutAction, &QAction::triggered, m_sheets, &WindowSheets::showAbout);
 }
 
 void MainWindow::createMenus()
@@ -361,8 +362,8 @@ void MainWindow::connectController()
             &TavrinAppController::setIncludeSubFolders);
 
     connect(m_controller, &TavrinAppController::currProfileFileChanged, this, &MainWindow::updateWindowTitle);
-    connect(m_controller, &TavrinAppController::pasteboardItemsRequested, this,
-        &MainWindow::openPasteboardItemsSheet);
+    connect(m_controller, &TavrinAppController::pasteboardItemsRequested, m_sheets,
+        &WindowSheets::openPasteboardItemsSheet);
     connect(&m_controller->livePreview(), &LivePreview::stateChanged, this, &MainWindow::updateLivePreviewAction);
     connect(m_opener, &DocumentOpener::ruleFileOpened, m_documents, &DocumentCommands::openRuleDocument);
     connect(m_opener, &DocumentOpener::profileFileOpened, m_documents, &DocumentCommands::openProfileDocument);
@@ -635,40 +636,6 @@ void MainWindow::updateLivePreviewAction()
     setToolTipWithShortcut(m_livePreviewAction, on ? "LIVEPREVIEWONTOOLTIP" : "LIVEPREVIEWOFFTOOLTIP");
 }
 
-void MainWindow::showLivePreview()
-{
-    const LivePreview& live = m_controller->livePreview();
-    if (live.isLivePreviewEnabled()) {
-        m_controller->setLivePreview(false);
-        return;
-    }
-    // The action shows the state, not the click, until the user has chosen.
-    updateLivePreviewAction();
-    auto* sheet = new LivePreviewSheet(live.isLivePreviewAllFiles(), live.livePreviewFilesLimit(), this);
-    sheet->setAttribute(Qt::WA_DeleteOnClose);
-    connect(sheet, &LivePreviewSheet::helpRequested, this, [this] { showHelpPage(QStringLiteral("livepreview.html")); });
-    connect(sheet, &QDialog::accepted, this, [this, sheet] {
-        m_controller->setLivePreviewCoverage(sheet->isAllFiles(), sheet->filesLimit());
-        m_controller->setLivePreview(true);
-    });
-    sheet->open();
-}
-
-void MainWindow::openPreferences()
-{
-    auto* sheet = new PreferencesSheet(m_controller->preferences(), this);
-    sheet->setAttribute(Qt::WA_DeleteOnClose);
-    connect(sheet, &PreferencesSheet::helpRequested, this, [this] { showHelpPage(QStringLiteral("preferences.html")); });
-    connect(sheet, &QDialog::accepted, this, [this, sheet] {
-        QString error;
-        if (m_controller->applyPreferences(sheet->preferences(), &error))
-            m_prompter->inform(this, localized("PREFERENCESTITLE"), localized("PREFERENCESSAVEDMESSAGE"));
-        else
-            m_prompter->warn(this, localized("PREFERENCESTITLE"), error);
-    });
-    sheet->open();
-}
-
 void MainWindow::pasteItems()
 {
     const QStringList paths = pathsFromClipboard(QGuiApplication::clipboard()->mimeData());
@@ -679,34 +646,10 @@ void MainWindow::pasteItems()
     m_opener->openFiles(paths);
 }
 
-void MainWindow::openPasteboardItemsSheet(const QStringList& paths)
-{
-    auto* sheet = new PasteboardItemsSheet(paths, this);
-    sheet->setAttribute(Qt::WA_DeleteOnClose);
-    connect(sheet, &PasteboardItemsSheet::helpRequested, this,
-        [this] { showHelpPage(QStringLiteral("pasteditems.html")); });
-    connect(sheet, &QDialog::accepted, this, [this, sheet] {
-        m_controller->addPastedItems(sheet->paths(), sheet->isFolders(), sheet->isIncludeSubFolders());
-    });
-    sheet->open();
-}
-
-void MainWindow::showHelpPage(const QString& page)
-{
-    const QString file = helpPageFile(page);
-    if (file.isEmpty() || !QDesktopServices::openUrl(QUrl::fromLocalFile(file)))
-        m_prompter->warn(this, localized("HELP"), localized("HELPUNAVAILABLE"));
-}
-
 void MainWindow::selectAll()
 {
     m_table->selectAll();
     m_table->setFocus();
-}
-
-void MainWindow::showAbout()
-{
-    QMessageBox::about(this, localized("APPTITLE"), localized("ABOUTTEXT").arg(QApplication::applicationVersion()));
 }
 
 }  // namespace tavrin

@@ -23,6 +23,7 @@ class FileTableView;
 class ListModeSelector;
 class RenamePanel;
 class TavrinAppController;
+class WindowSheets;
 
 // The one window: the list of items with its toolbar and status line above, and below
 // it the area where the renaming actions live.
@@ -48,12 +49,7 @@ public:
     void addPaths(const QStringList& paths);
     // Adds what the file manager put on the clipboard, as items opened with the application.
     void pasteItems();
-    // Live preview off: the sheet of its settings, and on when the user agrees. On: off.
-    void showLivePreview();
-    void openPreferences();
-    void openPasteboardItemsSheet(const QStringList& paths);
-    // Opens a help page of the current language in the desktop's browser.
-    void showHelpPage(const QString& page);
+    WindowSheets* sheets() const { return m_sheets; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -93,7 +89,6 @@ private:
     void updateWindowTitle();
     void updateLivePreviewAction();
     void selectAll();
-    void showAbout();
     QLabel* createLanguageFlag();
 
     TavrinAppController* m_controller;
@@ -107,6 +102,7 @@ private:
     std::unique_ptr<Prompter> m_prompter;
     DocumentCommands* m_documents;
     DocumentOpener* m_opener;
+    WindowSheets* m_sheets;
 
     QAction* m_addFilesAction = nullptr;
     QAction* m_addFoldersAction = nullptr;

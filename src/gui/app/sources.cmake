@@ -7,4 +7,5 @@ target_sources(tavrin_gui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/PreferencesSheet.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SingleInstance.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TavrinAppController.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TavrinAppControllerSession.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/TavrinAppControllerSession.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/WindowSheets.cpp)
