@@ -187,7 +187,7 @@ TEST_F(SessionTest, RapidChangesCollapseIntoOneLivePreviewAfterTheLast)
     for (const int caseCode : {2, 3, 1}) {
         controller.settings().setGeneralFileNameCase(caseCode);
         sinceLastChange.start();
-        QTest::qWait(LivePreview::DelayMilliseconds / 4);
+        QTest::qWait(LivePreview::DelayMilliseconds / 10);
     }
     ASSERT_TRUE(previews.wait(5000));
     // A coarse timer may fire up to 5 % early.
