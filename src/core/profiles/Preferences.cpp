@@ -1,5 +1,6 @@
 #include "core/profiles/Preferences.h"
 
+#include "core/profiles/PropertyList.h"
 #include "core/text/LocalizedStrings.h"
 #include "core/text/NameParts.h"
 #include "core/text/StringUtilities.h"
@@ -9,8 +10,6 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 #include <filesystem>
-#include <memory>
-#include <plist/plist.h>
 #include <system_error>
 
 namespace tavrin {
@@ -22,11 +21,6 @@ constexpr char kPreferencesFile[] = "preferences.plist";
 
 // A preferences file is a few hundred bytes; anything this large is not one.
 constexpr qint64 kLargestPreferencesFile = 1024 * 1024;
-
-struct PlistFree {
-    void operator()(plist_t node) const { plist_free(node); }
-};
-using Plist = std::unique_ptr<void, PlistFree>;
 
 void setError(QString* error, const QString& message)
 {
@@ -46,16 +40,8 @@ QString folderError(const QString& path, const std::error_code& code)
 
 Plist readPlist(const QString& path, QString* error)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > kLargestPreferencesFile) {
-        setError(error, localized("PREFERENCESREADFAILED").arg(path));
-        return nullptr;
-    }
-    const QByteArray data = file.readAll();
-    plist_t root = nullptr;
-    plist_from_memory(data.constData(), uint32_t(data.size()), &root);
-    Plist plist(root);
-    if (!plist || plist_get_node_type(root) != PLIST_DICT) {
+    Plist plist = readPlistFile(path, kLargestPreferencesFile);
+    if (!plist || plist_get_node_type(plist.get()) != PLIST_DICT) {
         setError(error, localized("PREFERENCESREADFAILED").arg(path));
         return nullptr;
     }
@@ -67,9 +53,7 @@ void readString(plist_t dictionary, const char* key, QString& value)
     const plist_t node = plist_dict_get_item(dictionary, key);
     if (!node || plist_get_node_type(node) != PLIST_STRING)
         return;
-    uint64_t length = 0;
-    const char* text = plist_get_string_ptr(node, &length);
-    value = QString::fromUtf8(text, qsizetype(length));
+    value = plistString(node);
 }
 
 // The flag is written as "%d" text; a true boolean or a number written by another tool
@@ -116,12 +100,7 @@ QByteArray preferencesXml(const Preferences& preferences)
     setString(dictionary.get(), preferencekeys::DefaultLogFolderPath, preferences.defaultLogFolderPath);
     setString(dictionary.get(), preferencekeys::AutomaticSaveCurrProfile,
               preferences.automaticSaveCurrProfile ? QStringLiteral("1") : QStringLiteral("0"));
-    char* xml = nullptr;
-    uint32_t length = 0;
-    plist_to_xml(dictionary.get(), &xml, &length);
-    const QByteArray bytes(xml, qsizetype(length));
-    plist_to_xml_free(xml);
-    return bytes;
+    return plistToXml(dictionary.get());
 }
 
 }  // namespace

@@ -1,16 +1,14 @@
 #include "core/profiles/ProfileFile.h"
 
 #include "core/log/VersionStamp.h"
+#include "core/profiles/PropertyList.h"
 #include "core/profiles/SettingsRecord.h"
 #include "core/text/LocalizedStrings.h"
 
-#include <QFile>
 #include <QSaveFile>
 #include <QVariantMap>
 #include <cstdlib>
-#include <memory>
 #include <optional>
-#include <plist/plist.h>
 
 namespace tavrin {
 
@@ -18,11 +16,6 @@ namespace {
 
 // A profile is a few kilobytes; anything this large is not one.
 constexpr qint64 kLargestProfileFile = 16 * 1024 * 1024;
-
-struct PlistFree {
-    void operator()(plist_t node) const { plist_free(node); }
-};
-using Plist = std::unique_ptr<void, PlistFree>;
 
 void setError(QString* error, const QString& message)
 {
@@ -44,12 +37,7 @@ QByteArray profileXml(const QVariantMap& record)
         }
         plist_dict_set_item(dictionary.get(), key.toUtf8().constData(), node);
     }
-    char* xml = nullptr;
-    uint32_t length = 0;
-    plist_to_xml(dictionary.get(), &xml, &length);
-    const QByteArray bytes(xml, qsizetype(length));
-    plist_to_xml_free(xml);
-    return bytes;
+    return plistToXml(dictionary.get());
 }
 
 // Texts and data are what a record holds; any other value is kept as a null QVariant, which
@@ -58,10 +46,8 @@ QVariant recordValue(plist_t node)
 {
     uint64_t length = 0;
     switch (plist_get_node_type(node)) {
-    case PLIST_STRING: {
-        const char* text = plist_get_string_ptr(node, &length);
-        return QString::fromUtf8(text, qsizetype(length));
-    }
+    case PLIST_STRING:
+        return plistString(node);
     case PLIST_DATA: {
         const char* bytes = plist_get_data_ptr(node, &length);
         return QByteArray(bytes, qsizetype(length));
@@ -73,17 +59,10 @@ QVariant recordValue(plist_t node)
 
 std::optional<QVariantMap> readRecord(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > kLargestProfileFile)
+    const Plist plist = readPlistFile(path, kLargestProfileFile);
+    if (!plist || plist_get_node_type(plist.get()) != PLIST_DICT)
         return std::nullopt;
-    const QByteArray data = file.readAll();
-    if (data.isEmpty())
-        return std::nullopt;
-    plist_t root = nullptr;
-    plist_from_memory(data.constData(), uint32_t(data.size()), &root);
-    const Plist plist(root);
-    if (!plist || plist_get_node_type(root) != PLIST_DICT)
-        return std::nullopt;
+    const plist_t root = plist.get();
     QVariantMap record;
     plist_dict_iter iterator = nullptr;
     plist_dict_new_iter(root, &iterator);

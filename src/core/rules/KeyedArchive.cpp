@@ -1,13 +1,12 @@
 #include "core/rules/KeyedArchive.h"
 
+#include "core/profiles/PropertyList.h"
+
 #include <QDateTime>
 #include <QHash>
 #include <QTimeZone>
 #include <cmath>
 #include <initializer_list>
-#include <limits>
-#include <memory>
-#include <plist/plist.h>
 #include <vector>
 
 namespace tavrin {
@@ -26,21 +25,9 @@ constexpr qint64 kReferenceDateInUnixSeconds = 978307200;
 // Beyond this many seconds a time no longer fits QDateTime's milliseconds.
 constexpr double kFarthestTime = 1e15;
 
-struct PlistFree {
-    void operator()(plist_t node) const { plist_free(node); }
-};
-using Plist = std::unique_ptr<void, PlistFree>;
-
 bool isString(plist_t node, const char* text)
 {
     return node && plist_get_node_type(node) == PLIST_STRING && plist_string_val_compare(node, text) == 0;
-}
-
-QString stringValue(plist_t node)
-{
-    uint64_t length = 0;
-    const char* text = plist_get_string_ptr(node, &length);
-    return QString::fromUtf8(text, qsizetype(length));
 }
 
 bool isOneOf(const QByteArray& name, std::initializer_list<const char*> names)
@@ -297,7 +284,7 @@ std::optional<QVariant> ArchiveReader::decodeValue(plist_t node, int depth)
 {
     switch (plist_get_node_type(node)) {
     case PLIST_STRING:
-        return QVariant(stringValue(node));
+        return QVariant(plistString(node));
     case PLIST_BOOLEAN:
         return QVariant(plist_bool_val_is_true(node) != 0);
     case PLIST_UINT: {
@@ -337,7 +324,7 @@ std::optional<QVariant> ArchiveReader::decodeInstance(plist_t object, int depth)
         const plist_t text = plist_dict_get_item(object, "NS.string");
         if (!text || plist_get_node_type(text) != PLIST_STRING)
             return std::nullopt;
-        return QVariant(stringValue(text));
+        return QVariant(plistString(text));
     }
     if (*name == "NSDate") {
         const plist_t time = plist_dict_get_item(object, "NS.time");
@@ -395,7 +382,7 @@ std::optional<QByteArray> ArchiveReader::className(plist_t object) const
     const plist_t name = plist_dict_get_item(description, "$classname");
     if (!name || plist_get_node_type(name) != PLIST_STRING)
         return std::nullopt;
-    return stringValue(name).toUtf8();
+    return plistString(name).toUtf8();
 }
 
 }  // namespace
@@ -407,11 +394,8 @@ QByteArray keyedArchive(const QVariant& root)
 
 std::optional<QVariant> keyedUnarchive(const QByteArray& data)
 {
-    if (data.isEmpty() || quint64(data.size()) > std::numeric_limits<uint32_t>::max())
-        return std::nullopt;
-    plist_t parsed = nullptr;
-    plist_from_memory(data.constData(), uint32_t(data.size()), &parsed);
-    const Plist archive(parsed);
+    const Plist archive = parsePlist(data);
+    const plist_t parsed = archive.get();
     if (!archive || plist_get_node_type(parsed) != PLIST_DICT)
         return std::nullopt;
     if (!isString(plist_dict_get_item(parsed, "$archiver"), kArchiverName))

@@ -1,29 +1,19 @@
 #include "core/rules/RuleLibraryImport.h"
 
 #include "core/log/VersionStamp.h"
+#include "core/profiles/PropertyList.h"
 #include "core/text/LocalizedStrings.h"
 #include "core/text/NameParts.h"
 
 #include <QFile>
 #include <QSaveFile>
-#include <memory>
-#include <plist/plist.h>
 
 namespace tavrin {
 
 namespace {
 
-struct PlistDeleter {
-    void operator()(plist_t node) const { plist_free(node); }
-};
-
-bool holdsListOfSteps(const QByteArray& content)
-{
-    plist_t root = nullptr;
-    plist_from_memory(content.constData(), uint32_t(content.size()), &root);
-    const std::unique_ptr<void, PlistDeleter> owner(root);
-    return root && plist_get_node_type(root) == PLIST_ARRAY;
-}
+// A rule chain is a few kilobytes; anything this large is not one.
+constexpr qint64 kLargestRuleFile = 16 * 1024 * 1024;
 
 void setError(QString* error, const QString& text)
 {
@@ -40,8 +30,8 @@ RuleFileCheck checkRuleFile(const QString& path)
         return RuleFileCheck::Unreadable;
     if (!isFileVersionMatch(version))
         return RuleFileCheck::Incompatible;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || !holdsListOfSteps(file.readAll()))
+    const Plist steps = readPlistFile(path, kLargestRuleFile);
+    if (!steps || plist_get_node_type(steps.get()) != PLIST_ARRAY)
         return RuleFileCheck::Unreadable;
     return RuleFileCheck::Compatible;
 }

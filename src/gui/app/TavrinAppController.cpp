@@ -171,7 +171,7 @@ bool TavrinAppController::quickPreview(int limit)
     copyOptions(m_settings, m_workerSettings);
     m_previewOutcome = PreviewOutcome();
     m_quickPreviewLimit = limit;
-    startQuietWorker([this, limit] { runPreview(limit, nullptr); }, &TavrinAppController::finishQuickPreview);
+    launchWorker([this, limit] { runPreview(limit, nullptr); }, &TavrinAppController::finishQuickPreview);
     return true;
 }
 
@@ -193,19 +193,16 @@ bool TavrinAppController::apply(const ContinueWithoutLogQuestion& continueWithou
 void TavrinAppController::startWorker(
     const QString& message, std::function<void()> work, void (TavrinAppController::*finish)())
 {
-    m_cancel = false;
-    m_snapshot = m_files.items();
-    setExecuting(true);
     m_startTime = m_endTime = secondsSinceEpoch();
+    launchWorker(std::move(work), finish);
+    emit executingChanged(true);
     emit progressMessage(message);
-    m_worker.reset(QThread::create(std::move(work)));
-    connect(m_worker.get(), &QThread::finished, this, finish);
-    m_worker->start();
 }
 
-// A live preview runs while the user goes on typing: nothing is disabled and no progress is
-// shown, but the list still belongs to the worker until it ends (list changes wait).
-void TavrinAppController::startQuietWorker(std::function<void()> work, void (TavrinAppController::*finish)())
+// From here until the worker ends the list belongs to it (list changes wait) and the table
+// shows a copy. Alone, as for a live preview that runs while the user goes on typing, it
+// disables nothing and shows no progress; startWorker adds both.
+void TavrinAppController::launchWorker(std::function<void()> work, void (TavrinAppController::*finish)())
 {
     m_cancel = false;
     m_snapshot = m_files.items();
@@ -375,12 +372,6 @@ QString TavrinAppController::logLocationText() const
 void TavrinAppController::cancelProcess()
 {
     m_cancel = true;
-}
-
-void TavrinAppController::setExecuting(bool executing)
-{
-    m_isExecuting = executing;
-    emit executingChanged(executing);
 }
 
 void TavrinAppController::setHasFilesForRenaming(bool hasFiles)

@@ -206,7 +206,7 @@ private:
     void reportProgress(const Progress& progress);
     void startWorker(
         const QString& message, std::function<void()> work, void (TavrinAppController::*finish)());
-    void startQuietWorker(std::function<void()> work, void (TavrinAppController::*finish)());
+    void launchWorker(std::function<void()> work, void (TavrinAppController::*finish)());
     void endWorker();
     void endQuietWorker();
     void runScan(const QStringList& paths, const ScanOptions& options);
@@ -222,7 +222,6 @@ private:
     void restoreLivePreview();
     void finishApply();
     void modeSettingChanged();
-    void setExecuting(bool executing);
     void setHasFilesForRenaming(bool hasFiles);
     void stopWorker();
     QString foundCountText(int found) const;

@@ -36,9 +36,10 @@ QString helpPageFile(const QString& name)
     pages.removeDuplicates();
     if (!pages.contains(name))
         return {};
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::CacheLocation)
-        + QStringLiteral("/help/") + language;
-    if (!QDir().mkpath(folder))
+    const QString helpFolder = QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + QStringLiteral("/help");
+    const QString folder = helpFolder + QLatin1Char('/') + language;
+    // Every language's pages share one stylesheet, beside their folders.
+    if (!QDir().mkpath(folder) || !copyPage(QStringLiteral(":/help/help.css"), helpFolder + QStringLiteral("/help.css")))
         return {};
     for (const QString& page : pages) {
         const QString translated = resourcePage(language, page);

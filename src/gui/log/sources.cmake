@@ -12,4 +12,4 @@ file(GLOB tavrin_help_pages CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/he
 qt_add_resources(tavrin_gui tavrin_help
   PREFIX "/help"
   BASE ${PROJECT_SOURCE_DIR}/resources/help
-  FILES ${tavrin_help_pages})
+  FILES ${tavrin_help_pages} ${PROJECT_SOURCE_DIR}/resources/help/help.css)
