@@ -3,7 +3,7 @@ BUILD_DIR ?= build
 BUILD_TYPE ?= RelWithDebInfo
 CMAKE_FLAGS ?=
 
-.PHONY: run test deps configure build sanitize clean
+.PHONY: run test deps configure build sanitize coverage clean
 
 deps:
 	@scripts/install-deps.sh
@@ -25,5 +25,12 @@ run: build
 sanitize:
 	@$(MAKE) test BUILD_DIR=build-sanitize BUILD_TYPE=Debug CMAKE_FLAGS=-DTAVRIN_SANITIZE=ON
 
+# Line and branch coverage of the engine and the command line, from every test.
+coverage:
+	@$(MAKE) build BUILD_DIR=build-coverage BUILD_TYPE=Debug CMAKE_FLAGS=-DTAVRIN_COVERAGE=ON
+	@find build-coverage -name '*.gcda' -delete
+	@ctest --test-dir build-coverage -j2 --output-on-failure >/dev/null || true
+	@scripts/coverage-summary.sh build-coverage
+
 clean:
-	rm -rf $(BUILD_DIR) build-sanitize
+	rm -rf $(BUILD_DIR) build-sanitize build-coverage

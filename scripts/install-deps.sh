@@ -9,6 +9,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth
   desktop-file-utils appstream shared-mime-info libxml2-utils
+  gcovr
 )
 
 missing=()

@@ -1,6 +1,6 @@
 #include "core/profiles/ProfileFile.h"
 #include "core/profiles/Tabs.h"
-#include "core/rules/KeyedArchive.h"
+#include "core/formats/KeyedArchive.h"
 #include "gui/app/DocumentOpener.h"
 #include "gui/app/LivePreview.h"
 #include "gui/app/TavrinAppController.h"

@@ -3,7 +3,7 @@
 #include "core/log/LogFileLock.h"
 #include "core/log/RenameLog.h"
 #include "core/log/RenameLogReader.h"
-#include "core/log/VersionStamp.h"
+#include "core/formats/VersionStamp.h"
 
 namespace tavrin {
 

@@ -1,7 +1,7 @@
 #include "core/log/LogListing.h"
 
 #include "core/log/LogFileName.h"
-#include "core/log/VersionStamp.h"
+#include "core/formats/VersionStamp.h"
 #include "core/text/NameParts.h"
 
 #include <QDir>

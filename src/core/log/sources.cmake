@@ -9,5 +9,4 @@ target_sources(tavrin_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/RenameLogEntry.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RenameLogFormat.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RenameLogReader.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/UndoRenaming.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/VersionStamp.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/UndoRenaming.cpp)

@@ -1,6 +1,6 @@
 #include "core/profiles/Preferences.h"
 
-#include "core/profiles/PropertyList.h"
+#include "core/formats/PropertyList.h"
 #include "core/text/LocalizedStrings.h"
 #include "core/text/NameParts.h"
 #include "core/text/StringUtilities.h"

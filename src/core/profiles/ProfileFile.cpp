@@ -1,7 +1,7 @@
 #include "core/profiles/ProfileFile.h"
 
-#include "core/log/VersionStamp.h"
-#include "core/profiles/PropertyList.h"
+#include "core/formats/VersionStamp.h"
+#include "core/formats/PropertyList.h"
 #include "core/profiles/SettingsRecord.h"
 #include "core/text/LocalizedStrings.h"
 

@@ -1,7 +1,6 @@
 target_sources(tavrin_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/Preferences.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ProfileFile.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/PropertyList.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Settings.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SettingsDefaults.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SettingsRecord.cpp

@@ -1,7 +1,7 @@
 #include "core/rules/RuleLibraryImport.h"
 
-#include "core/log/VersionStamp.h"
-#include "core/profiles/PropertyList.h"
+#include "core/formats/VersionStamp.h"
+#include "core/formats/PropertyList.h"
 #include "core/text/LocalizedStrings.h"
 #include "core/text/NameParts.h"
 

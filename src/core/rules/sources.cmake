@@ -1,3 +1,2 @@
 target_sources(tavrin_core PRIVATE
-  ${CMAKE_CURRENT_LIST_DIR}/KeyedArchive.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RuleLibraryImport.cpp)

@@ -2,7 +2,7 @@
 
 #include "core/profiles/Preferences.h"
 #include "core/profiles/SettingsRecord.h"
-#include "core/rules/KeyedArchive.h"
+#include "core/formats/KeyedArchive.h"
 #include "core/text/LocalizedStrings.h"
 #include "gui/app/LivePreview.h"
 

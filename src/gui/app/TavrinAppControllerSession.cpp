@@ -4,7 +4,7 @@
 #include "gui/app/TavrinAppController.h"
 
 #include "core/profiles/SettingsRecord.h"
-#include "core/rules/KeyedArchive.h"
+#include "core/formats/KeyedArchive.h"
 #include "core/text/LocalizedStrings.h"
 #include "gui/app/LivePreview.h"
 

@@ -2,7 +2,7 @@
 
 #include "core/log/RenameLogEntry.h"
 #include "core/log/RenameLogFormat.h"
-#include "core/log/VersionStamp.h"
+#include "core/formats/VersionStamp.h"
 #include "support/TempTree.h"
 
 #include <QList>

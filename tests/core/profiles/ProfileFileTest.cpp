@@ -1,8 +1,8 @@
-#include "core/log/VersionStamp.h"
+#include "core/formats/VersionStamp.h"
 #include "core/profiles/ProfileFile.h"
 #include "core/profiles/Settings.h"
 #include "core/profiles/SettingsRecord.h"
-#include "core/rules/KeyedArchive.h"
+#include "core/formats/KeyedArchive.h"
 #include "support/TempTree.h"
 
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "core/log/VersionStamp.h"
+#include "core/formats/VersionStamp.h"
 
 #include <QFile>
 #include <QXmlStreamReader>

@@ -1,6 +1,6 @@
-#include "core/rules/KeyedArchive.h"
+#include "core/formats/KeyedArchive.h"
 
-#include "core/profiles/PropertyList.h"
+#include "core/formats/PropertyList.h"
 
 #include <QDateTime>
 #include <QHash>

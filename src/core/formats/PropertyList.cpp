@@ -1,4 +1,4 @@
-#include "core/profiles/PropertyList.h"
+#include "core/formats/PropertyList.h"
 
 #include <QFile>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "core/rules/KeyedArchive.h"
+#include "core/formats/KeyedArchive.h"
 
 #include <QDateTime>
 #include <QRandomGenerator>

@@ -1,0 +1,4 @@
+target_sources(tavrin_core PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/KeyedArchive.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/PropertyList.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/VersionStamp.cpp)
