@@ -4,103 +4,58 @@
 #include "core/engine/actions/general.h"
 #include "core/engine/actions/insertdelete.h"
 #include "core/engine/actions/replaceremove.h"
+#include "core/profiles/Settings.h"
 #include "core/profiles/Tabs.h"
-
-#include <iterator>
-#include <optional>
 
 namespace tavrin {
 
 namespace {
 
-bool runGeneral(FileSystemItem& item, const OptionValues& o, SequenceCounters&, QString& error)
+BoundAction bindGeneral(const OptionValues& values)
 {
-    return renameByGeneral(item, o.integer("generalOptionIndex"), o.integer("generalFileNameCase"),
-                           o.integer("generalExtensionCase"), o.text("generalChangeExtension"),
-                           o.text("generalSwapSeperator"), o.text("generalSwapPosition"),
-                           o.text("generalRemoveAfterString"), o.text("generalRemoveFromString"),
-                           o.text("generalRemoveAfterStringOccurrence"),
-                           o.text("generalRemoveFromStringOccurrence"),
-                           o.text("generalConvertWindowsCompatibleString"), o.text("generalFilenameMask"), error);
+    return [options = GeneralOptions::from(values)](FileSystemItem& item, QString& error) {
+        return renameByGeneral(item, options, error);
+    };
 }
 
-bool runSequence(FileSystemItem& item, const OptionValues& o, SequenceCounters& counters, QString& error)
+BoundAction bindSequence(const OptionValues& values)
 {
-    const bool increment = o.boolean("isAlphaNumericIncrement");
-    const bool decrement = o.boolean("isAlphaNumericDecrement");
-    const bool prefix = o.boolean("isAlphaNumericPrefix");
-    const bool suffix = o.boolean("isAlphaNumericSufix");
-    const bool separator = o.boolean("isAlphaNumericSeperator");
-    const QString separatorText = o.text("alphaNumericSeperator");
-    const QString mask = o.text("alphaNumericPaddingMask");
-    const int incrementBy = o.integer("alphaNumericIncrementBy");
-    const int decrementBy = o.integer("alphaNumericDecrementBy");
-    if (o.boolean("isAlphaNumericNumeric")) {
-        return renameByNumeric(item, increment, decrement, prefix, suffix, separator, separatorText, mask,
-                               counters.numeric, incrementBy, decrementBy, error);
+    const SequenceOptions options = SequenceOptions::from(values);
+    if (options.kind == SequenceKind::Numeric) {
+        return [options, counter = options.numericStart](FileSystemItem& item, QString& error) mutable {
+            return renameByNumeric(item, options, counter, error);
+        };
     }
-    return renameByAlphabetic(item, increment, decrement, prefix, suffix, separator, separatorText, mask,
-                              counters.alphabetic, incrementBy, decrementBy, error);
+    return [options, counter = options.alphabeticStart](FileSystemItem& item, QString& error) mutable {
+        return renameByAlphabetic(item, options, counter, error);
+    };
 }
 
-bool runInsertDelete(FileSystemItem& item, const OptionValues& o, SequenceCounters&, QString& error)
+BoundAction bindInsertDelete(const OptionValues& values)
 {
-    if (o.boolean("isInsertDeleteInsert")) {
-        return renameByInsert(item, o.text("insertDeleteInsert"), o.integer("insertDeleteInsertOptionIndex"),
-                              o.integer("insertDeleteAtCharacterPositions"),
-                              o.integer("insertDeleteInsertAtPostionDirection"),
-                              o.text("insertDeleteInsertAtBeforeText"),
-                              o.integer("insertDeleteInsertAtBeforeOccurrence"),
-                              o.text("insertDeleteInsertAtAfterText"),
-                              o.integer("insertDeleteInsertAtAfterOccurrence"), error);
+    if (values.boolean(Settings::isInsertDeleteInsertKey)) {
+        return [options = InsertOptions::from(values)](FileSystemItem& item, QString& error) {
+            return renameByInsert(item, options, error);
+        };
     }
-    return renameByDelete(item, o.boolean("isInsertDeleteDeleteFromBackWard"),
-                          o.integer("insertDeleteFromCharacterPosition"),
-                          o.integer("insertDeleteNumberOfCharacters"), error);
+    return [options = DeleteOptions::from(values)](FileSystemItem& item, QString& error) {
+        return renameByDelete(item, options, error);
+    };
 }
 
-// What the mode switches of the replace/remove tab make of the action's arguments.
-struct ReplaceRemoveForm {
-    QString replaceWith;
-    bool removeCharacters = false;
-    int startOnOccurrence = replaceremoveall::StartOnOccurrence;
-    int occurrenceCount = replaceremoveall::OccurrenceCount;
-};
-
-// None when no mode is chosen: then there is nothing to run.
-std::optional<ReplaceRemoveForm> replaceRemoveForm(const OptionValues& o)
+BoundAction bindReplaceRemove(const OptionValues& values)
 {
-    ReplaceRemoveForm form;
-    if (o.boolean("isReplaceRemoveReplace"))
-        form.replaceWith = o.text("replaceRemoveWith");
-    else if (o.boolean("isReplaceRemoveRemoveCharacters"))
-        form.removeCharacters = true;
-    else if (!o.boolean("isReplaceRemoveRemove"))
-        return std::nullopt;
-    if (!form.removeCharacters && !o.boolean("isReplaceRemoveAllOccurrence")) {
-        form.startOnOccurrence = o.integer("replaceRemoveStartOnOccurrence");
-        form.occurrenceCount = o.integer("replaceRemoveOccuranceCount");
-    }
-    return form;
-}
-
-bool runReplaceRemove(FileSystemItem& item, const OptionValues& o, SequenceCounters&, QString& error)
-{
-    const std::optional<ReplaceRemoveForm> form = replaceRemoveForm(o);
-    if (!form)
-        return true;
-    return renameByReplaceRemove(item, o.text("replaceRemoveThis"), form->replaceWith,
-                                 o.boolean("isReplaceRemoveCaseSensitive"), form->removeCharacters,
-                                 o.integer("replaceRemoveStartFromCharacter"), form->startOnOccurrence,
-                                 form->occurrenceCount, o.integer("replaceRemovePositionDirection"), error);
+    return [options = ReplaceRemoveOptions::from(values)](FileSystemItem& item, QString& error) {
+        return renameByReplaceRemove(item, options, error);
+    };
 }
 
 // One row per tab; the actions of later tabs join this table as they are built.
 const ActionEntry kActions[] = {
-    {tabs::AlphaNumeric, "AlphaNumeric", runSequence, "isAlphaNumericResetSequenceOnEachFolder"},
-    {tabs::InsertDelete, "InsertDelete", runInsertDelete, nullptr},
-    {tabs::ReplaceRemove, "ReplaceRemove", runReplaceRemove, nullptr},
-    {tabs::General, "General", runGeneral, nullptr},
+    {tabs::AlphaNumeric, "AlphaNumeric", bindSequence, Settings::isAlphaNumericResetSequenceOnEachFolderKey},
+    {tabs::InsertDelete, "InsertDelete", bindInsertDelete, nullptr},
+    {tabs::ReplaceRemove, "ReplaceRemove", bindReplaceRemove, nullptr},
+    {tabs::General, "General", bindGeneral, nullptr},
     {tabs::FromFile, "", nullptr, nullptr},
 };
 
@@ -118,15 +73,10 @@ const ActionEntry* actionForTab(int tab)
 const ActionEntry* actionForRule(const QString& ruleName)
 {
     for (const ActionEntry& entry : kActions) {
-        if (entry.run && ruleName == QLatin1String(entry.ruleName))
+        if (entry.bind && ruleName == QLatin1String(entry.ruleName))
             return &entry;
     }
     return nullptr;
-}
-
-SequenceCounters startCounters(const OptionValues& options)
-{
-    return {options.integer("alphaNumericNumericStartWith"), options.text("alphaNumericAlphabeticStartWith")};
 }
 
 }  // namespace tavrin

@@ -4,25 +4,22 @@
 #include "core/list/FileSystemItem.h"
 
 #include <QString>
+#include <functional>
 
 namespace tavrin {
 
-// The running counters of the sequence actions, owned by the pipeline and passed to the
-// action by reference so that each call hands back the next value.
-struct SequenceCounters {
-    int numeric = 0;
-    QString alphabetic;
-};
+// One action with the options of one run read into it: writes a record's proposal into
+// its newFilename and answers false (with an error text) when it could not. A sequence
+// carries its counter from call to call.
+using BoundAction = std::function<bool(FileSystemItem& item, QString& error)>;
 
-// Runs one action on one record with the given option values; writes the proposal into
-// the record's newFilename and answers false (with an error text) when it could not.
-using ActionRunner = bool (*)(FileSystemItem& item, const OptionValues& options, SequenceCounters& counters,
-                              QString& error);
+// Reads an action's options once and binds them, with the counters at their start values.
+using ActionBinder = BoundAction (*)(const OptionValues& options);
 
 struct ActionEntry {
     int tab;
     const char* ruleName;           // the "rule" of a rule step that runs this action
-    ActionRunner run;               // null for a tab that runs no action
+    ActionBinder bind;              // null for a tab that runs no action
     const char* resetPerFolderKey;  // option that restarts the counters in each folder, or null
 };
 
@@ -30,8 +27,5 @@ struct ActionEntry {
 const ActionEntry* actionForTab(int tab);
 // The action a rule step names ("General", "ReplaceRemove", ...), or null.
 const ActionEntry* actionForRule(const QString& ruleName);
-
-// The counters' start values from the options of the sequence tab.
-SequenceCounters startCounters(const OptionValues& options);
 
 }  // namespace tavrin

@@ -4,7 +4,9 @@
 #include "core/list/FileList.h"
 #include "core/list/StatusTexts.h"
 #include "core/log/RenameLog.h"
+#include "core/engine/actions/general.h"
 #include "core/platform/FileOperations.h"
+#include "core/profiles/Settings.h"
 #include "core/profiles/Tabs.h"
 #include "core/text/LocalizedStrings.h"
 #include "core/text/NameParts.h"
@@ -49,9 +51,11 @@ TabProposer::TabProposer(const OptionValues& options, int tab)
     resetCounters();
 }
 
+// Binding the action again reads its options afresh and restarts its counters.
 void TabProposer::resetCounters()
 {
-    m_counters = startCounters(m_options);
+    if (m_action && m_action->bind)
+        m_run = m_action->bind(m_options);
 }
 
 bool TabProposer::restartsInEachFolder() const
@@ -61,14 +65,14 @@ bool TabProposer::restartsInEachFolder() const
 
 bool TabProposer::computesNames() const
 {
-    return m_action == nullptr || m_action->run != nullptr;
+    return m_action == nullptr || m_action->bind != nullptr;
 }
 
 bool TabProposer::propose(FileSystemItem& item, QString& error)
 {
-    if (!m_action || !m_action->run)
+    if (!m_run)
         return true;
-    return m_action->run(item, m_options, m_counters, error);
+    return m_run(item, error);
 }
 
 Pipeline::Pipeline(FileList& list, const OptionValues& options)
@@ -79,7 +83,7 @@ Pipeline::Pipeline(FileList& list, const OptionValues& options)
 
 PreviewOutcome Pipeline::preview(const std::atomic_bool& cancel, ProgressObserver* observer, int limit)
 {
-    TabProposer proposer(m_options, m_options.integer("selectedTab"));
+    TabProposer proposer(m_options, m_options.integer(Settings::selectedTabKey));
     return preview(proposer, cancel, observer, limit);
 }
 
@@ -158,8 +162,8 @@ void Pipeline::judgeProposal(FileSystemItem& item, PreviewOutcome& outcome) cons
 
 bool Pipeline::movesFoldersWithContents() const
 {
-    return (m_options.boolean("isFolders") && m_options.boolean("isIncludeSubFolders"))
-        || m_options.integer("selectedTab") == tabs::FromFile;
+    return (m_options.boolean(Settings::isFoldersKey) && m_options.boolean(Settings::isIncludeSubFoldersKey))
+        || m_options.integer(Settings::selectedTabKey) == tabs::FromFile;
 }
 
 namespace {
@@ -169,9 +173,9 @@ class ApplyRun {
 public:
     ApplyRun(FileList& list, const OptionValues& options, bool rewritePaths)
         : m_list(list)
-        , m_tab(options.integer("selectedTab"))
-        , m_generalOptionIndex(options.integer("generalOptionIndex"))
-        , m_isFolders(options.boolean("isFolders"))
+        , m_tab(options.integer(Settings::selectedTabKey))
+        , m_generalOptionIndex(options.integer(Settings::generalOptionIndexKey))
+        , m_isFolders(options.boolean(Settings::isFoldersKey))
     {
         if (rewritePaths)
             m_index = std::make_unique<FolderPathIndex>(list);
@@ -191,11 +195,16 @@ public:
 private:
     // Case conversions of the general tab may name the same object in another case, so
     // neither the existence test nor a plain refusal of an existing target fits them.
-    bool isCaseConversion() const { return m_generalOptionIndex == 0 || m_generalOptionIndex == 1; }
+    bool isCaseConversion() const
+    {
+        return m_generalOptionIndex == generaloption::ConvertFilenameCase
+            || m_generalOptionIndex == generaloption::ConvertExtensionCase;
+    }
     bool skipsExistenceTest() const { return m_tab == tabs::General || isCaseConversion(); }
     bool allowsCaseOnlyRename() const
     {
-        return (m_tab == tabs::General || m_tab == tabs::FromFile) && m_generalOptionIndex <= 1;
+        return (m_tab == tabs::General || m_tab == tabs::FromFile)
+            && m_generalOptionIndex <= generaloption::ConvertExtensionCase;
     }
     bool targetTaken(const FileSystemItem& item, const QString& target) const
     {

@@ -55,7 +55,7 @@ public:
 private:
     const OptionValues& m_options;
     const ActionEntry* m_action;
-    SequenceCounters m_counters;
+    BoundAction m_run;  // empty for a tab that computes no names
 };
 
 // Preview and apply over a file list. The options are read by key ("selectedTab",

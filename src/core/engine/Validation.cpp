@@ -1,6 +1,10 @@
 #include "core/engine/Validation.h"
 
 #include "core/engine/OptionValues.h"
+#include "core/engine/actions/alphanumeric.h"
+#include "core/engine/actions/general.h"
+#include "core/engine/actions/insertdelete.h"
+#include "core/profiles/Settings.h"
 #include "core/profiles/Tabs.h"
 #include "core/text/StringUtilities.h"
 
@@ -22,26 +26,33 @@ struct RequiredInput {
     const char* messageKey;
 };
 
+// The date/time and path-components placements share the insert tab's numbering.
 const RequiredInput kRequiredInputs[] = {
-    {tabs::InsertDelete, "isInsertDeleteInsert", nullptr, 0, "insertDeleteInsert", "INSERTINVALIDINPUT", "ENTERVALIDVALUE"},
-    {tabs::InsertDelete, "isInsertDeleteInsert", "insertDeleteInsertOptionIndex", 3, "insertDeleteInsertAtBeforeText",
-     "INSERTTEXTATBEFORETEXT", "ENTERSOMETEXT"},
-    {tabs::InsertDelete, "isInsertDeleteInsert", "insertDeleteInsertOptionIndex", 4, "insertDeleteInsertAtAfterText",
-     "INSERTTEXTATAFTERTEXT", "ENTERSOMETEXT"},
-    {tabs::ReplaceRemove, nullptr, nullptr, 0, "replaceRemoveThis", "REPLACEREMOVEINVALIDINPUT", "ENTERVALIDVALUE"},
-    {tabs::DateTime, nullptr, "dateTimeOptionsIndex", 3, "dateTimeAtBeforeText", "DATETIMEATBEFORETEXTINVALIDINPUT",
-     "ENTERSOMETEXT"},
-    {tabs::DateTime, nullptr, "dateTimeOptionsIndex", 4, "dateTimeAtAfterText", "DATETIMEATAFTERTEXTINVALIDINPUT",
-     "ENTERSOMETEXT"},
-    {tabs::General, nullptr, "generalOptionIndex", 8, "generalRemoveAfterString", "GENERALINVALIDINPUT", "ENTERVALIDVALUE"},
-    {tabs::General, nullptr, "generalOptionIndex", 9, "generalRemoveFromString", "GENERALINVALIDINPUT", "ENTERVALIDVALUE"},
-    {tabs::General, nullptr, "generalOptionIndex", 10, "generalFilenameMask", "GENERALINVALIDINPUT", "ENTERVALIDVALUE"},
-    {tabs::Audio, nullptr, nullptr, 0, "id3RenamingMask", "ID3INVALIDINPUT", "INVALIDID3RENAMINGMASK"},
-    {tabs::Photo, nullptr, nullptr, 0, "photoRenamingMask", "PHOTOINVALIDINPUT", "INVALIDPHOTORENAMINGMASK"},
-    {tabs::PathComponents, nullptr, "pathComponentsOptionsIndex", 3, "pathComponentsAtBeforeText", "PATHTEXTATBEFORETEXT",
-     "ENTERSOMETEXT"},
-    {tabs::PathComponents, nullptr, "pathComponentsOptionsIndex", 4, "pathComponentsAtAfterText", "PATHTEXTATAFTERTEXT",
-     "ENTERSOMETEXT"},
+    {tabs::InsertDelete, Settings::isInsertDeleteInsertKey, nullptr, 0, Settings::insertDeleteInsertKey,
+     "INSERTINVALIDINPUT", "ENTERVALIDVALUE"},
+    {tabs::InsertDelete, Settings::isInsertDeleteInsertKey, Settings::insertDeleteInsertOptionIndexKey,
+     insertoption::BeforeText, Settings::insertDeleteInsertAtBeforeTextKey, "INSERTTEXTATBEFORETEXT", "ENTERSOMETEXT"},
+    {tabs::InsertDelete, Settings::isInsertDeleteInsertKey, Settings::insertDeleteInsertOptionIndexKey,
+     insertoption::AfterText, Settings::insertDeleteInsertAtAfterTextKey, "INSERTTEXTATAFTERTEXT", "ENTERSOMETEXT"},
+    {tabs::ReplaceRemove, nullptr, nullptr, 0, Settings::replaceRemoveThisKey, "REPLACEREMOVEINVALIDINPUT",
+     "ENTERVALIDVALUE"},
+    {tabs::DateTime, nullptr, Settings::dateTimeOptionsIndexKey, insertoption::BeforeText,
+     Settings::dateTimeAtBeforeTextKey, "DATETIMEATBEFORETEXTINVALIDINPUT", "ENTERSOMETEXT"},
+    {tabs::DateTime, nullptr, Settings::dateTimeOptionsIndexKey, insertoption::AfterText,
+     Settings::dateTimeAtAfterTextKey, "DATETIMEATAFTERTEXTINVALIDINPUT", "ENTERSOMETEXT"},
+    {tabs::General, nullptr, Settings::generalOptionIndexKey, generaloption::RemoveAfterString,
+     Settings::generalRemoveAfterStringKey, "GENERALINVALIDINPUT", "ENTERVALIDVALUE"},
+    {tabs::General, nullptr, Settings::generalOptionIndexKey, generaloption::RemoveFromString,
+     Settings::generalRemoveFromStringKey, "GENERALINVALIDINPUT", "ENTERVALIDVALUE"},
+    {tabs::General, nullptr, Settings::generalOptionIndexKey, generaloption::FilenameMask,
+     Settings::generalFilenameMaskKey, "GENERALINVALIDINPUT", "ENTERVALIDVALUE"},
+    {tabs::Audio, nullptr, nullptr, 0, Settings::id3RenamingMaskKey, "ID3INVALIDINPUT", "INVALIDID3RENAMINGMASK"},
+    {tabs::Photo, nullptr, nullptr, 0, Settings::photoRenamingMaskKey, "PHOTOINVALIDINPUT",
+     "INVALIDPHOTORENAMINGMASK"},
+    {tabs::PathComponents, nullptr, Settings::pathComponentsOptionsIndexKey, insertoption::BeforeText,
+     Settings::pathComponentsAtBeforeTextKey, "PATHTEXTATBEFORETEXT", "ENTERSOMETEXT"},
+    {tabs::PathComponents, nullptr, Settings::pathComponentsOptionsIndexKey, insertoption::AfterText,
+     Settings::pathComponentsAtAfterTextKey, "PATHTEXTATAFTERTEXT", "ENTERSOMETEXT"},
 };
 
 void setText(QObject& settings, const char* key, const QString& value)
@@ -49,36 +60,34 @@ void setText(QObject& settings, const char* key, const QString& value)
     settings.setProperty(key, value);
 }
 
-// A step of a sequence, clamped into [low, high].
-void clampStep(QObject& settings, const char* key, int low, int high)
+// A step of a sequence is at least 1 and at most `largest`.
+void clampStep(QObject& settings, const char* key, int largest)
 {
     const int value = toInteger(settings.property(key).toString());
-    if (value < low)
-        setText(settings, key, QString::number(low));
-    else if (value > high)
-        setText(settings, key, QString::number(high));
+    if (value < 1)
+        setText(settings, key, QStringLiteral("1"));
+    else if (value > largest)
+        setText(settings, key, QString::number(largest));
 }
 
 void normaliseSequence(QObject& settings)
 {
     const PropertyOptionValues options(settings);
-    if (options.boolean("isAlphaNumericNumeric")) {
-        clampStep(settings, "alphaNumericIncrementBy", 1, INT_MAX);
-        clampStep(settings, "alphaNumericDecrementBy", 1, INT_MAX);
-        return;
-    }
-    clampStep(settings, "alphaNumericIncrementBy", 1, 26);
-    clampStep(settings, "alphaNumericDecrementBy", 1, 26);
-    if (options.text("alphaNumericAlphabeticStartWith").isEmpty())
-        setText(settings, "alphaNumericAlphabeticStartWith", QStringLiteral("a"));
+    const bool numeric = options.boolean(Settings::isAlphaNumericNumericKey);
+    const int largest = numeric ? INT_MAX : alphabeticsequence::MaximumStep;
+    clampStep(settings, Settings::alphaNumericIncrementByKey, largest);
+    clampStep(settings, Settings::alphaNumericDecrementByKey, largest);
+    if (!numeric && options.text(Settings::alphaNumericAlphabeticStartWithKey).isEmpty())
+        setText(settings, Settings::alphaNumericAlphabeticStartWithKey,
+                QString::fromLatin1(alphabeticsequence::StartValue));
 }
 
 void normalise(QObject& settings, int tab)
 {
     if (tab == tabs::AlphaNumeric)
         normaliseSequence(settings);
-    if (tab == tabs::General && settings.property("generalSwapPosition").toString().isEmpty())
-        setText(settings, "generalSwapPosition", QStringLiteral("1"));
+    if (tab == tabs::General && settings.property(Settings::generalSwapPositionKey).toString().isEmpty())
+        setText(settings, Settings::generalSwapPositionKey, QStringLiteral("1"));
 }
 
 bool applies(const OptionValues& options, const RequiredInput& input)

@@ -1,6 +1,8 @@
 #include "core/engine/actions/alphanumeric.h"
 
+#include "core/engine/OptionValues.h"
 #include "core/engine/actions/workingname.h"
+#include "core/profiles/Settings.h"
 #include "core/text/LocalizedStrings.h"
 #include "core/text/NameParts.h"
 
@@ -27,39 +29,47 @@ QString paddedByMask(const QString& value, const QString& mask)
     return mask.left(mask.size() - value.size()) + value;
 }
 
-QString separatorIf(bool seperator, const QString& seperatorString)
+QString numberedName(const QString& name, const QString& value, const SequenceOptions& options)
 {
-    return seperator ? seperatorString : QString();
+    const QString separator = storedName(options.separator);
+    switch (options.placement) {
+    case SequencePlacement::BeforeName:
+        return value + separator + name;
+    case SequencePlacement::AfterName:
+        return name + separator + value;
+    case SequencePlacement::BothEnds:
+        return value + separator + name + separator + value;
+    case SequencePlacement::InsteadOfName:
+        break;
+    }
+    return value;
 }
 
-QString numberedName(const QString& name, const QString& value, bool prefix, bool subffix, const QString& separator)
-{
-    if (!prefix && !subffix)
-        return value;
-    const QString front = prefix ? value + separator : QString();
-    const QString back = subffix ? separator + value : QString();
-    return front + name + back;
-}
-
-// Unlike the numeric placement, the suffix wraps what the prefix built: with both, the
+// Unlike the numeric placement, the suffix wraps what the prefix built: at both ends, the
 // name stands on either side of the value.
-QString letteredName(const QString& name, const QString& value, bool prefix, bool subffix, const QString& separator)
+QString letteredName(const QString& name, const QString& value, const SequenceOptions& options)
 {
-    QString result = value;
-    if (prefix)
-        result = value + separator + name;
-    if (subffix)
-        result = name + separator + result;
-    return result;
+    const QString& separator = options.separator;
+    switch (options.placement) {
+    case SequencePlacement::BeforeName:
+        return value + separator + name;
+    case SequencePlacement::AfterName:
+        return name + separator + value;
+    case SequencePlacement::BothEnds:
+        return name + separator + value + separator + name;
+    case SequencePlacement::InsteadOfName:
+        break;
+    }
+    return value;
 }
 
-int nextNumber(int current, bool increment, bool decrement, int incrementBy, int decrementBy)
+int nextNumber(int current, const SequenceOptions& options)
 {
     qint64 next = current;
-    if (decrement)
-        next -= std::max(decrementBy, 1);
-    else if (increment)
-        next += std::max(incrementBy, 1);
+    if (options.direction == SequenceDirection::Decrement)
+        next -= std::max(options.step, 1);
+    else if (options.direction == SequenceDirection::Increment)
+        next += std::max(options.step, 1);
     return static_cast<int>(std::clamp<qint64>(next, 0, std::numeric_limits<int>::max()));
 }
 
@@ -74,11 +84,12 @@ QString steppedOnce(const QString& value, bool decrement, int step)
     return previous.isEmpty() ? QStringLiteral("a") + QChar(u'\0') : previous;
 }
 
-QString nextLetterValue(const QString& current, bool increment, bool decrement, int incrementBy, int decrementBy)
+QString nextLetterValue(const QString& current, const SequenceOptions& options)
 {
-    if (!increment && !decrement)
+    if (options.direction == SequenceDirection::Stay)
         return current;
-    const int step = std::min(decrement ? decrementBy : incrementBy, alphabeticsequence::MaximumStep);
+    const bool decrement = options.direction == SequenceDirection::Decrement;
+    const int step = std::min(options.step, alphabeticsequence::MaximumStep);
     QString value = current;
     for (int steps = 0; steps < alphabeticsequence::MaximumStepsIntoRange; ++steps) {
         value = steppedOnce(value, decrement, step);
@@ -154,43 +165,64 @@ bool isAlphabeticNumericInRange(const QString& value)
                        [](QChar character) { return character >= QChar(u'a') && character <= QChar(u'z'); });
 }
 
-bool renameByNumeric(FileSystemItem& item, bool increment, bool decrement, bool prefix, bool subffix, bool seperator,
-                     const QString& seperatorString, const QString& addingMask, int& numericStartWith, int incrementBy,
-                     int decrementBy, QString& error)
+SequenceOptions SequenceOptions::from(const OptionValues& values)
 {
-    int counter = std::max(numericStartWith, 0);
+    SequenceOptions options;
+    options.kind = values.boolean(Settings::isAlphaNumericNumericKey) ? SequenceKind::Numeric : SequenceKind::Alphabetic;
+    if (values.boolean(Settings::isAlphaNumericDecrementKey)) {
+        options.direction = SequenceDirection::Decrement;
+        options.step = values.integer(Settings::alphaNumericDecrementByKey);
+    } else if (values.boolean(Settings::isAlphaNumericIncrementKey)) {
+        options.direction = SequenceDirection::Increment;
+        options.step = values.integer(Settings::alphaNumericIncrementByKey);
+    } else {
+        options.direction = SequenceDirection::Stay;
+    }
+    const bool prefix = values.boolean(Settings::isAlphaNumericPrefixKey);
+    const bool suffix = values.boolean(Settings::isAlphaNumericSufixKey);
+    if (prefix)
+        options.placement = suffix ? SequencePlacement::BothEnds : SequencePlacement::BeforeName;
+    else if (suffix)
+        options.placement = SequencePlacement::AfterName;
+    if (values.boolean(Settings::isAlphaNumericSeperatorKey))
+        options.separator = values.text(Settings::alphaNumericSeperatorKey);
+    options.paddingMask = values.text(Settings::alphaNumericPaddingMaskKey);
+    options.numericStart = values.integer(Settings::alphaNumericNumericStartWithKey);
+    options.alphabeticStart = values.text(Settings::alphaNumericAlphabeticStartWithKey);
+    return options;
+}
+
+bool renameByNumeric(FileSystemItem& item, const SequenceOptions& options, int& counter, QString& error)
+{
+    int value = std::max(counter, 0);
     try {
-        const QString value = paddedByMask(QString::number(counter), storedName(addingMask));
+        const QString text = paddedByMask(QString::number(value), storedName(options.paddingMask));
         const NameParts parts = workingNameParts(item);
-        const QString name
-            = numberedName(parts.name, value, prefix, subffix, separatorIf(seperator, storedName(seperatorString)));
+        const QString name = numberedName(parts.name, text, options);
         item.setObject(withExtension(name, parts.extension), QLatin1String(itemkeys::NewFilename));
-        counter = nextNumber(counter, increment, decrement, incrementBy, decrementBy);
+        value = nextNumber(value, options);
     } catch (const std::exception& e) {
         error = localized("UNABLETOGENERATENEWFILENAMEERROR").arg(QString::fromLocal8Bit(e.what()));
     }
-    numericStartWith = counter;
+    counter = value;
     return error.isEmpty();
 }
 
-bool renameByAlphabetic(FileSystemItem& item, bool increment, bool decrement, bool prefix, bool subffix, bool seperator,
-                        const QString& seperatorString, const QString& addingMask, QString& alphabeticStartWith,
-                        int incrementBy, int decrementBy, QString& error)
+bool renameByAlphabetic(FileSystemItem& item, const SequenceOptions& options, QString& counter, QString& error)
 {
-    QString counter
-        = alphabeticStartWith.isEmpty() ? QString::fromLatin1(alphabeticsequence::StartValue) : alphabeticStartWith;
+    QString value = counter.isEmpty() ? QString::fromLatin1(alphabeticsequence::StartValue) : counter;
     try {
-        if (!addingMask.isEmpty() && counter.size() > addingMask.size())
-            counter.truncate(addingMask.size());
-        const QString value = paddedByMask(counter, addingMask);
+        const QString& mask = options.paddingMask;
+        if (!mask.isEmpty() && value.size() > mask.size())
+            value.truncate(mask.size());
         const NameParts parts = workingNameParts(item);
-        const QString name = letteredName(parts.name, value, prefix, subffix, separatorIf(seperator, seperatorString));
+        const QString name = letteredName(parts.name, paddedByMask(value, mask), options);
         item.setObject(withExtension(name, parts.extension), QLatin1String(itemkeys::NewFilename));
-        counter = nextLetterValue(counter, increment, decrement, incrementBy, decrementBy);
+        value = nextLetterValue(value, options);
     } catch (const std::exception& e) {
         error = localized("UNABLETOGENERATENEWFILENAMEERROR").arg(QString::fromLocal8Bit(e.what()));
     }
-    alphabeticStartWith = counter;
+    counter = value;
     return error.isEmpty();
 }
 

@@ -1,7 +1,8 @@
 #include "core/engine/actions/general.h"
 
+#include "core/engine/OptionValues.h"
 #include "core/engine/actions/workingname.h"
-
+#include "core/profiles/Settings.h"
 #include "core/text/LocalizedStrings.h"
 #include "core/text/NameParts.h"
 #include "core/text/StringUtilities.h"
@@ -13,21 +14,6 @@
 namespace tavrin {
 
 namespace {
-
-// What the tab's options mean once the texts are in the form the file system stores.
-struct GeneralInputs {
-    int optionIndex = 0;
-    int fileNameCase = 0;
-    QString changeExtension;
-    QString swapSeperator;
-    int swapPosition = 0;
-    QString removeAfterString;
-    int removeAfterOccurrence = 0;
-    QString removeFromString;
-    int removeFromOccurrence = 0;
-    QString windowsReplacement;
-    QString filenameMask;
-};
 
 // Windows refuses these in a name; they are replaced in this order, so a replacement
 // holding one of the later characters is itself replaced again.
@@ -94,9 +80,9 @@ QString withoutSpaces(const QString& name)
 
 // Option 3 adds the new extension to files only, but the old extension is dropped for
 // every kind of record: a folder "x.y" becomes "x".
-QString transformedName(const QString& name, const GeneralInputs& in, bool isFile)
+QString transformedName(const QString& name, const GeneralOptions& in, bool isFile)
 {
-    switch (in.optionIndex) {
+    switch (in.option) {
     case generaloption::ConvertFilenameCase:
         return convertLetterCase(name, in.fileNameCase);
     case generaloption::ChangeExtension:
@@ -122,28 +108,28 @@ QString transformedName(const QString& name, const GeneralInputs& in, bool isFil
     }
 }
 
-bool dropsExtension(int optionIndex)
+bool dropsExtension(generaloption::GeneralOption option)
 {
-    return optionIndex == generaloption::RemoveExtension || optionIndex == generaloption::ChangeExtension;
+    return option == generaloption::RemoveExtension || option == generaloption::ChangeExtension;
 }
 
-QString proposedName(const FileSystemItem& item, const GeneralInputs& in, int extensionCase)
+QString proposedName(const FileSystemItem& item, const GeneralOptions& in)
 {
     const NameParts parts = workingNameParts(item);
     const QString name = transformedName(parts.name, in, item.itemType() == ItemType::File);
-    const QString extension = in.optionIndex == generaloption::ConvertExtensionCase
-        ? convertLetterCase(parts.extension, extensionCase)
+    const QString extension = in.option == generaloption::ConvertExtensionCase
+        ? convertLetterCase(parts.extension, in.extensionCase)
         : parts.extension;
-    if (extension.isEmpty() || dropsExtension(in.optionIndex))
+    if (extension.isEmpty() || dropsExtension(in.option))
         return name;
     return name + QLatin1Char('.') + extension;
 }
 
 }  // namespace
 
-QString convertLetterCase(const QString& text, int caseCode)
+QString convertLetterCase(const QString& text, lettercase::LetterCase letterCase)
 {
-    switch (caseCode) {
+    switch (letterCase) {
     case lettercase::Upper:
         return text.toUpper();
     case lettercase::Lower:
@@ -155,30 +141,36 @@ QString convertLetterCase(const QString& text, int caseCode)
     }
 }
 
-bool renameByGeneral(FileSystemItem& item, int generalOptionIndex, int generalFileNameCase, int generalExtensionCase,
-                     const QString& generalChangeExtension, const QString& generalSwapSeperator,
-                     const QString& generalSwapPosition, const QString& generalRemoveAfterString,
-                     const QString& generalRemoveFromString, const QString& generalRemoveAfterStringOccurrence,
-                     const QString& generalRemoveFromStringOccurrence,
-                     const QString& generalConvertWindowsCompatibleString, const QString& generalFilenameMask,
-                     QString& error)
+GeneralOptions GeneralOptions::from(const OptionValues& values)
+{
+    GeneralOptions options;
+    options.option = static_cast<generaloption::GeneralOption>(values.integer(Settings::generalOptionIndexKey));
+    options.fileNameCase = static_cast<lettercase::LetterCase>(values.integer(Settings::generalFileNameCaseKey));
+    options.extensionCase = static_cast<lettercase::LetterCase>(values.integer(Settings::generalExtensionCaseKey));
+    options.changeExtension = values.text(Settings::generalChangeExtensionKey);
+    options.swapSeperator = values.text(Settings::generalSwapSeperatorKey);
+    options.swapPosition = values.integer(Settings::generalSwapPositionKey);
+    options.removeAfterString = values.text(Settings::generalRemoveAfterStringKey);
+    options.removeAfterOccurrence = values.integer(Settings::generalRemoveAfterStringOccurrenceKey);
+    options.removeFromString = values.text(Settings::generalRemoveFromStringKey);
+    options.removeFromOccurrence = values.integer(Settings::generalRemoveFromStringOccurrenceKey);
+    options.windowsReplacement = values.text(Settings::generalConvertWindowsCompatibleStringKey);
+    options.filenameMask = values.text(Settings::generalFilenameMaskKey);
+    return options;
+}
+
+bool renameByGeneral(FileSystemItem& item, const GeneralOptions& options, QString& error)
 {
     try {
-        GeneralInputs in;
-        in.optionIndex = generalOptionIndex;
-        in.fileNameCase = generalFileNameCase;
-        in.changeExtension = typedForName(generalChangeExtension);
-        in.swapSeperator = typedForName(generalSwapSeperator);
-        in.swapPosition = toInteger(generalSwapPosition);
-        in.removeAfterString = typedForName(generalRemoveAfterString);
-        in.removeAfterOccurrence = toInteger(generalRemoveAfterStringOccurrence);
-        in.removeFromString = typedForName(generalRemoveFromString);
-        in.removeFromOccurrence = toInteger(generalRemoveFromStringOccurrence);
-        // Left as typed: a slash that ends up in the proposal becomes a colon where every
-        // proposed name is checked.
-        in.windowsReplacement = generalConvertWindowsCompatibleString;
-        in.filenameMask = typedForName(generalFilenameMask);
-        item.setObject(proposedName(item, in, generalExtensionCase), QLatin1String(itemkeys::NewFilename));
+        // The windows replacement stays as typed: a slash that ends up in the proposal
+        // becomes a colon where every proposed name is checked.
+        GeneralOptions in = options;
+        in.changeExtension = typedForName(options.changeExtension);
+        in.swapSeperator = typedForName(options.swapSeperator);
+        in.removeAfterString = typedForName(options.removeAfterString);
+        in.removeFromString = typedForName(options.removeFromString);
+        in.filenameMask = typedForName(options.filenameMask);
+        item.setObject(proposedName(item, in), QLatin1String(itemkeys::NewFilename));
     } catch (const std::exception& e) {
         error = localized("UNABLETOGENERATENEWFILENAMEERROR").arg(QString::fromLocal8Bit(e.what()));
     }

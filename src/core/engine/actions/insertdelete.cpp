@@ -1,6 +1,8 @@
 #include "core/engine/actions/insertdelete.h"
 
+#include "core/engine/OptionValues.h"
 #include "core/engine/actions/workingname.h"
+#include "core/profiles/Settings.h"
 #include "core/text/LocalizedStrings.h"
 #include "core/text/NameParts.h"
 #include "core/text/StringUtilities.h"
@@ -12,18 +14,17 @@ namespace tavrin {
 
 namespace {
 
-struct InsertInputs {
-    QString text;
-    int optionIndex = insertoption::AtBeginning;
-    int position = 1;
-    int direction = insertdirection::FromStart;
-    QString beforeText;
-    int beforeOccurrence = 1;
-    QString afterText;
-    int afterOccurrence = 1;
-};
+// The options with the texts in the form a name stores.
+InsertOptions storedTexts(const InsertOptions& options)
+{
+    InsertOptions stored = options;
+    stored.text = storedName(options.text);
+    stored.beforeText = storedName(options.beforeText);
+    stored.afterText = storedName(options.afterText);
+    return stored;
+}
 
-QString insertedAtPosition(const QString& name, const InsertInputs& in)
+QString insertedAtPosition(const QString& name, const InsertOptions& in)
 {
     // Position 0 and negative positions lie beyond the name as well.
     if (in.position < 1 || name.size() < in.position - 1)
@@ -35,9 +36,9 @@ QString insertedAtPosition(const QString& name, const InsertInputs& in)
     return fromEnd ? reverseString(inserted) : inserted;
 }
 
-std::optional<QString> insertedName(const QString& name, const InsertInputs& in)
+std::optional<QString> insertedName(const QString& name, const InsertOptions& in)
 {
-    switch (in.optionIndex) {
+    switch (in.place) {
     case insertoption::AtBeginning:
         return in.text + name;
     case insertoption::AtEnd:
@@ -53,8 +54,11 @@ std::optional<QString> insertedName(const QString& name, const InsertInputs& in)
     }
 }
 
-QString deletedRun(const QString& name, bool fromBackward, int position, int count)
+QString deletedRun(const QString& name, const DeleteOptions& options)
 {
+    const int count = options.count;
+    const int position = options.fromPosition;
+    const bool fromBackward = options.fromBackward;
     if (count < 1)
         return name;
     // Every negative position lies beyond the end too.
@@ -70,22 +74,35 @@ QString deletedRun(const QString& name, bool fromBackward, int position, int cou
 
 }  // namespace
 
-bool renameByInsert(FileSystemItem& item, const QString& insertText, int insertOptionIndex, int atCharacterPositions,
-                    int atPostionDirection, const QString& atBeforeText, int atBeforeOccurrence,
-                    const QString& atAfterText, int atAfterOccurrence, QString& error)
+InsertOptions InsertOptions::from(const OptionValues& values)
+{
+    InsertOptions options;
+    options.text = values.text(Settings::insertDeleteInsertKey);
+    options.place = static_cast<insertoption::InsertPlace>(values.integer(Settings::insertDeleteInsertOptionIndexKey));
+    options.position = values.integer(Settings::insertDeleteAtCharacterPositionsKey);
+    options.direction
+        = static_cast<insertdirection::InsertDirection>(values.integer(Settings::insertDeleteInsertAtPostionDirectionKey));
+    options.beforeText = values.text(Settings::insertDeleteInsertAtBeforeTextKey);
+    options.beforeOccurrence = values.integer(Settings::insertDeleteInsertAtBeforeOccurrenceKey);
+    options.afterText = values.text(Settings::insertDeleteInsertAtAfterTextKey);
+    options.afterOccurrence = values.integer(Settings::insertDeleteInsertAtAfterOccurrenceKey);
+    return options;
+}
+
+DeleteOptions DeleteOptions::from(const OptionValues& values)
+{
+    DeleteOptions options;
+    options.fromBackward = values.boolean(Settings::isInsertDeleteDeleteFromBackWardKey);
+    options.fromPosition = values.integer(Settings::insertDeleteFromCharacterPositionKey);
+    options.count = values.integer(Settings::insertDeleteNumberOfCharactersKey);
+    return options;
+}
+
+bool renameByInsert(FileSystemItem& item, const InsertOptions& options, QString& error)
 {
     try {
-        InsertInputs in;
-        in.text = storedName(insertText);
-        in.optionIndex = insertOptionIndex;
-        in.position = atCharacterPositions;
-        in.direction = atPostionDirection;
-        in.beforeText = storedName(atBeforeText);
-        in.beforeOccurrence = atBeforeOccurrence;
-        in.afterText = storedName(atAfterText);
-        in.afterOccurrence = atAfterOccurrence;
         const NameParts parts = workingNameParts(item);
-        const std::optional<QString> name = insertedName(parts.name, in);
+        const std::optional<QString> name = insertedName(parts.name, storedTexts(options));
         item.setObject(name ? withExtension(*name, parts.extension) : QString(), QLatin1String(itemkeys::NewFilename));
     } catch (const std::exception& e) {
         error = localized("UNABLETOGENERATENEWFILENAMEERROR").arg(QString::fromLocal8Bit(e.what()));
@@ -93,13 +110,12 @@ bool renameByInsert(FileSystemItem& item, const QString& insertText, int insertO
     return error.isEmpty();
 }
 
-bool renameByDelete(FileSystemItem& item, bool deleteFromBackward, int fromCharacterPosition, int numberOfCharacters,
-                    QString& error)
+bool renameByDelete(FileSystemItem& item, const DeleteOptions& options, QString& error)
 {
     try {
         const NameParts parts = workingNameParts(item);
-        const QString name = deletedRun(parts.name, deleteFromBackward, fromCharacterPosition, numberOfCharacters);
-        item.setObject(withExtension(name, parts.extension), QLatin1String(itemkeys::NewFilename));
+        item.setObject(withExtension(deletedRun(parts.name, options), parts.extension),
+                       QLatin1String(itemkeys::NewFilename));
     } catch (const std::exception& e) {
         error = localized("UNABLETOGENERATENEWFILENAMEERROR").arg(QString::fromLocal8Bit(e.what()));
     }

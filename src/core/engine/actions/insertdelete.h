@@ -6,39 +6,66 @@
 
 namespace tavrin {
 
+class OptionValues;
+
 // Where the insert tab puts its text, by the value of insertDeleteInsertOptionIndex.
 namespace insertoption {
-inline constexpr int AtBeginning = 0;
-inline constexpr int AtEnd = 1;
-inline constexpr int AtPosition = 2;
-inline constexpr int BeforeText = 3;
-inline constexpr int AfterText = 4;
+enum InsertPlace : int {
+    AtBeginning = 0,
+    AtEnd = 1,
+    AtPosition = 2,
+    BeforeText = 3,
+    AfterText = 4,
+};
 }  // namespace insertoption
 
 // The values of insertDeleteInsertAtPostionDirection the tab offers.
 namespace insertdirection {
-inline constexpr int FromStart = 0;
-inline constexpr int FromEnd = 1;
+enum InsertDirection : int {
+    FromStart = 0,
+    FromEnd = 1,
+};
 }  // namespace insertdirection
+
+// The insert half of the insert/delete tab. Texts are kept as typed.
+struct InsertOptions {
+    QString text;
+    insertoption::InsertPlace place = insertoption::AtBeginning;
+    int position = 1;
+    insertdirection::InsertDirection direction = insertdirection::FromStart;
+    QString beforeText;
+    int beforeOccurrence = 1;
+    QString afterText;
+    int afterOccurrence = 1;
+
+    static InsertOptions from(const OptionValues& values);
+};
+
+// The delete half of the insert/delete tab.
+struct DeleteOptions {
+    bool fromBackward = false;
+    int fromPosition = 1;
+    int count = 0;
+
+    static DeleteOptions from(const OptionValues& values);
+};
 
 // Inserts text into the name (never into the extension) and writes the result, extension
 // included, into the record's newFilename; works on the name an earlier rule step proposed
 // when there is one. Positions are 1-based: position length + 1 appends, a position beyond
-// that (or below 1) leaves the name as it is. From the end (direction 1) position 1 is after
-// the last character and the inserted text still reads forwards. The anchors of options 3
-// and 4 always match case-sensitively; a missing occurrence leaves the name unchanged. An
-// unknown option proposes nothing at all. A typed "/" in the texts stands for ":".
+// that (or below 1) leaves the name as it is. From the end position 1 is after the last
+// character and the inserted text still reads forwards; any direction but FromEnd counts
+// from the start. The anchors of BeforeText and AfterText always match case-sensitively; a
+// missing occurrence leaves the name unchanged. An unknown place proposes nothing at all. A
+// typed "/" in the texts stands for ":".
 // Answers true when `error` (which the caller empties) is still empty afterwards.
-bool renameByInsert(FileSystemItem& item, const QString& insertText, int insertOptionIndex, int atCharacterPositions,
-                    int atPostionDirection, const QString& atBeforeText, int atBeforeOccurrence,
-                    const QString& atAfterText, int atAfterOccurrence, QString& error);
+bool renameByInsert(FileSystemItem& item, const InsertOptions& options, QString& error);
 
-// Deletes numberOfCharacters characters of the name from the 1-based fromCharacterPosition,
-// counted from the end when deleteFromBackward is set; the extension stays. A run reaching
-// past the end deletes to the end, a position beyond the end deletes nothing, and position 0
-// counts as position 1 with one character fewer.
+// Deletes `count` characters of the name from the 1-based fromPosition, counted from the
+// end when fromBackward is set; the extension stays. A run reaching past the end deletes to
+// the end, a position beyond the end deletes nothing, and position 0 counts as position 1
+// with one character fewer.
 // Answers true when `error` (which the caller empties) is still empty afterwards.
-bool renameByDelete(FileSystemItem& item, bool deleteFromBackward, int fromCharacterPosition, int numberOfCharacters,
-                    QString& error);
+bool renameByDelete(FileSystemItem& item, const DeleteOptions& options, QString& error);
 
 }  // namespace tavrin
