@@ -30,10 +30,10 @@ struct SequenceOptions {
     SequenceDirection direction = SequenceDirection::Increment;
     int step = 1;  // of the chosen direction
     SequencePlacement placement = SequencePlacement::InsteadOfName;
-    QString separator;  // empty when the separator switch is off
-    QString paddingMask;
+    QString separator{};  // empty when the separator switch is off
+    QString paddingMask{};
     int numericStart = 0;
-    QString alphabeticStart;
+    QString alphabeticStart{};
 
     static SequenceOptions from(const OptionValues& values);
 };

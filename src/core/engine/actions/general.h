@@ -45,15 +45,15 @@ struct GeneralOptions {
     generaloption::GeneralOption option = generaloption::ConvertFilenameCase;
     lettercase::LetterCase fileNameCase = lettercase::Unchanged;
     lettercase::LetterCase extensionCase = lettercase::Unchanged;
-    QString changeExtension;
-    QString swapSeperator;
+    QString changeExtension{};
+    QString swapSeperator{};
     int swapPosition = 1;
-    QString removeAfterString;
+    QString removeAfterString{};
     int removeAfterOccurrence = 0;
-    QString removeFromString;
+    QString removeFromString{};
     int removeFromOccurrence = 0;
-    QString windowsReplacement;
-    QString filenameMask;
+    QString windowsReplacement{};
+    QString filenameMask{};
 
     static GeneralOptions from(const OptionValues& values);
 };

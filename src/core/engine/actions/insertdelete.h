@@ -29,13 +29,13 @@ enum InsertDirection : int {
 
 // The insert half of the insert/delete tab. Texts are kept as typed.
 struct InsertOptions {
-    QString text;
+    QString text{};
     insertoption::InsertPlace place = insertoption::AtBeginning;
     int position = 1;
     insertdirection::InsertDirection direction = insertdirection::FromStart;
-    QString beforeText;
+    QString beforeText{};
     int beforeOccurrence = 1;
-    QString afterText;
+    QString afterText{};
     int afterOccurrence = 1;
 
     static InsertOptions from(const OptionValues& values);

@@ -30,8 +30,8 @@ enum class ReplaceRemoveMode { None, Replace, Remove, RemoveCharacters };
 // The replace/remove tab's options. Texts are kept as typed.
 struct ReplaceRemoveOptions {
     ReplaceRemoveMode mode = ReplaceRemoveMode::Replace;
-    QString find;
-    QString replacement;  // used in Replace mode only
+    QString find{};
+    QString replacement{};  // used in Replace mode only
     bool caseSensitive = false;
     int startFromCharacter = 1;
     int startOnOccurrence = replaceremoveall::StartOnOccurrence;
@@ -61,8 +61,8 @@ bool renameByReplaceRemove(FileSystemItem& item, const ReplaceRemoveOptions& opt
 
 // Where to look for an occurrence: the text searched, the text sought and how to compare.
 struct OccurrenceSearch {
-    QString text;
-    QString sought;
+    QString text{};
+    QString sought{};
     bool caseSensitive = false;
 };
 

@@ -10,85 +10,65 @@ using test::q;
 
 namespace {
 
-// The sequence options as the pipeline hands them over; the defaults count up by one and
-// put the bare value in place of the name.
-struct Sequence {
-    bool increment = true;
-    bool decrement = false;
-    bool prefix = false;
-    bool suffix = false;
-    bool separator = false;
-    const char* separatorText = "";
-    const char* mask = "";
-    int incrementBy = 1;
-    int decrementBy = 1;
-};
+using Placement = SequencePlacement;
+constexpr auto decrement = SequenceDirection::Decrement;
+constexpr auto stay = SequenceDirection::Stay;
 
-struct NumericRow {
-    const char* label;
-    Sequence sequence;
-    int start;
-    std::vector<const char*> expected;  // one item named "photo.jpg" per entry
-    int counterAfter;
-};
-
-struct AlphabeticRow {
-    const char* label;
-    Sequence sequence;
-    const char* start;
+// A run of the action over one fresh "photo.jpg" per expected name, the counter passed on.
+template <typename Counter>
+struct SequenceRow {
+    const char* name;
+    SequenceOptions options;
+    Counter start;
     std::vector<const char*> expected;
-    const char* counterAfter;
+    Counter counterAfter;
 };
+
+using NumericRow = SequenceRow<int>;
+using AlphabeticRow = SequenceRow<const char*>;
 
 class AlphaNumericAction : public test::ActionTest {
 protected:
-    // Runs the action over one fresh record per expected name, passing the counter on.
     void expectNumeric(const NumericRow& row, const char* onDisk = "photo.jpg", const char* earlier = "")
     {
-        const Sequence& s = row.sequence;
+        SCOPED_TRACE(row.name);
         int counter = row.start;
         for (const char* expected : row.expected) {
             FileSystemItem record = item(onDisk, earlier);
             QString error;
-            EXPECT_TRUE(renameByNumeric(record, s.increment, s.decrement, s.prefix, s.suffix, s.separator,
-                                        q(s.separatorText), q(s.mask), counter, s.incrementBy, s.decrementBy, error))
-                << row.label;
-            EXPECT_EQ(record.newFilename(), q(expected)) << row.label;
+            EXPECT_TRUE(renameByNumeric(record, row.options, counter, error));
+            EXPECT_EQ(record.newFilename(), q(expected));
         }
-        EXPECT_EQ(counter, row.counterAfter) << row.label;
+        EXPECT_EQ(counter, row.counterAfter);
     }
 
     void expectAlphabetic(const AlphabeticRow& row, const char* onDisk = "photo.jpg", const char* earlier = "")
     {
-        const Sequence& s = row.sequence;
+        SCOPED_TRACE(row.name);
         QString counter = q(row.start);
         for (const char* expected : row.expected) {
             FileSystemItem record = item(onDisk, earlier);
             QString error;
-            EXPECT_TRUE(renameByAlphabetic(record, s.increment, s.decrement, s.prefix, s.suffix, s.separator,
-                                           q(s.separatorText), q(s.mask), counter, s.incrementBy, s.decrementBy, error))
-                << row.label;
-            EXPECT_EQ(record.newFilename(), q(expected)) << row.label;
+            EXPECT_TRUE(renameByAlphabetic(record, row.options, counter, error));
+            EXPECT_EQ(record.newFilename(), q(expected));
         }
-        EXPECT_EQ(counter, q(row.counterAfter)) << row.label;
+        EXPECT_EQ(counter, q(row.counterAfter));
     }
 };
 
 TEST_F(AlphaNumericAction, NumbersWithMaskPlacementAndSeparator)
 {
     const NumericRow rows[] = {
-        {"suffix, mask wider", {.suffix = true, .separator = true, .separatorText = "-", .mask = "00"}, 9,
+        {"after, mask wider", {.placement = Placement::AfterName, .separator = "-", .paddingMask = "00"}, 9,
          {"photo-09.jpg", "photo-10.jpg"}, 11},
-        {"a narrower mask truncates", {.suffix = true, .separator = true, .separatorText = "-", .mask = "0"}, 9,
+        {"a narrower mask truncates", {.placement = Placement::AfterName, .separator = "-", .paddingMask = "0"}, 9,
          {"photo-9.jpg", "photo-1.jpg"}, 11},
-        {"mask longer than the value", {.prefix = true, .mask = "0000"}, 42, {"0042photo.jpg"}, 43},
-        {"mask longer by its own characters", {.mask = "ID-00"}, 7, {"ID-07.jpg"}, 8},
-        {"value longer than the mask", {.mask = "000"}, 12345, {"123.jpg"}, 12346},
-        {"neither end: the bare number", {}, 0, {"0.jpg", "1.jpg", "2.jpg"}, 3},
-        {"both ends", {.prefix = true, .suffix = true, .separator = true, .separatorText = "_"}, 3, {"3_photo_3.jpg"},
-         4},
-        {"separator text without its switch", {.prefix = true, .separatorText = "_"}, 3, {"3photo.jpg"}, 4},
-        {"typed slashes", {.prefix = true, .separator = true, .separatorText = "/", .mask = "a/00"}, 5,
+        {"before, mask longer", {.placement = Placement::BeforeName, .paddingMask = "0000"}, 42, {"0042photo.jpg"}, 43},
+        {"the mask's own characters", {.paddingMask = "ID-00"}, 7, {"ID-07.jpg"}, 8},
+        {"value longer than the mask", {.paddingMask = "000"}, 12345, {"123.jpg"}, 12346},
+        {"instead of the name", {}, 0, {"0.jpg", "1.jpg", "2.jpg"}, 3},
+        {"both ends", {.placement = Placement::BothEnds, .separator = "_"}, 3, {"3_photo_3.jpg"}, 4},
+        {"typed slashes", {.placement = Placement::BeforeName, .separator = "/", .paddingMask = "a/00"}, 5,
          {"a:05:photo.jpg"}, 6},
     };
     for (const NumericRow& row : rows)
@@ -99,17 +79,14 @@ TEST_F(AlphaNumericAction, NumericStepsNeverLeaveTheIntRangeOrDropBelowZero)
 {
     constexpr int largest = std::numeric_limits<int>::max();
     const NumericRow rows[] = {
-        {"step 3", {.incrementBy = 3}, 0, {"0.jpg", "3.jpg", "6.jpg"}, 9},
-        {"steps below 1 count as 1", {.incrementBy = 0}, 4, {"4.jpg", "5.jpg"}, 6},
-        {"decrement to 0 and stay", {.increment = false, .decrement = true, .decrementBy = 5}, 1,
-         {"1.jpg", "0.jpg", "0.jpg"}, 0},
-        {"decrement by less than 1", {.increment = false, .decrement = true, .decrementBy = -4}, 2, {"2.jpg", "1.jpg"},
-         0},
-        {"decrement wins", {.decrement = true, .incrementBy = 10, .decrementBy = 2}, 6, {"6.jpg", "4.jpg"}, 2},
-        {"neither direction", {.increment = false}, 5, {"5.jpg", "5.jpg"}, 5},
+        {"step 3", {.step = 3}, 0, {"0.jpg", "3.jpg", "6.jpg"}, 9},
+        {"steps below 1 count as 1", {.step = 0}, 4, {"4.jpg", "5.jpg"}, 6},
+        {"decrement to 0 and stay", {.direction = decrement, .step = 5}, 1, {"1.jpg", "0.jpg", "0.jpg"}, 0},
+        {"decrement by less than 1", {.direction = decrement, .step = -4}, 2, {"2.jpg", "1.jpg"}, 0},
+        {"stay", {.direction = stay}, 5, {"5.jpg", "5.jpg"}, 5},
         {"negative start", {}, -3, {"0.jpg", "1.jpg"}, 2},
-        {"stops at the largest int", {.incrementBy = 5}, largest - 1,
-         {"2147483646.jpg", "2147483647.jpg", "2147483647.jpg"}, largest},
+        {"stops at the largest int", {.step = 5}, largest - 1, {"2147483646.jpg", "2147483647.jpg", "2147483647.jpg"},
+         largest},
     };
     for (const NumericRow& row : rows)
         expectNumeric(row);
@@ -120,26 +97,20 @@ TEST_F(AlphaNumericAction, LettersCarryAndBorrowAcrossPositions)
     const AlphabeticRow rows[] = {
         {"past z", {}, "x", {"x.jpg", "y.jpg", "z.jpg", "aa.jpg", "ab.jpg"}, "ac"},
         {"past zz", {}, "zy", {"zy.jpg", "zz.jpg", "aaa.jpg"}, "aab"},
-        {"down past a", {.increment = false, .decrement = true}, "ab", {"ab.jpg", "aa.jpg", "z.jpg", "y.jpg"}, "x"},
-        {"down from a goes round to z", {.increment = false, .decrement = true}, "a", {"a.jpg", "z.jpg"}, "y"},
-        {"down from aaa", {.increment = false, .decrement = true}, "aaa", {"aaa.jpg", "zz.jpg"}, "zy"},
-        {"step 2 across z", {.incrementBy = 2}, "y", {"y.jpg", "ab.jpg"}, "ad"},
-        {"steps above 26 count as 26", {.incrementBy = 40}, "a", {"a.jpg", "az.jpg"}, "bz"},
-        {"26 itself", {.incrementBy = 26}, "a", {"a.jpg", "az.jpg"}, "bz"},
+        {"down past a", {.direction = decrement}, "ab", {"ab.jpg", "aa.jpg", "z.jpg", "y.jpg"}, "x"},
+        {"down from a goes round to z", {.direction = decrement}, "a", {"a.jpg", "z.jpg"}, "y"},
+        {"down from aaa", {.direction = decrement}, "aaa", {"aaa.jpg", "zz.jpg"}, "zy"},
+        {"down by less than 1", {.direction = decrement, .step = 0}, "c", {"c.jpg", "b.jpg"}, "a"},
+        {"step 2 across z", {.step = 2}, "y", {"y.jpg", "ab.jpg"}, "ad"},
+        {"steps above 26 count as 26", {.step = 40}, "a", {"a.jpg", "az.jpg"}, "bz"},
+        {"26 itself", {.step = 26}, "a", {"a.jpg", "az.jpg"}, "bz"},
         {"empty start", {}, "", {"a.jpg", "b.jpg"}, "c"},
-        {"neither direction", {.increment = false}, "c", {"c.jpg", "c.jpg"}, "c"},
-    };
-    for (const AlphabeticRow& row : rows)
-        expectAlphabetic(row);
-}
-
-TEST_F(AlphaNumericAction, AStartOutsideTheLettersIsUsedOnceThenSteppedIntoRange)
-{
-    const AlphabeticRow rows[] = {
+        {"stay", {.direction = stay}, "c", {"c.jpg", "c.jpg"}, "c"},
+        // A start outside the letters is used once, then stepped into range.
         {"upper case", {}, "A", {"A.jpg", "a.jpg", "b.jpg"}, "c"},
         {"a digit", {}, "a1", {"a1.jpg", "aa.jpg"}, "ab"},
         {"beyond z", {}, "{", {"{.jpg", "aa.jpg"}, "ab"},
-        {"upper case downwards", {.increment = false, .decrement = true}, "B", {"B.jpg", "z.jpg"}, "y"},
+        {"upper case downwards", {.direction = decrement}, "B", {"B.jpg", "z.jpg"}, "y"},
         // Stepping this one into range one letter at a time would take longer than any batch.
         {"hopeless", {}, "A0000000", {"A0000000.jpg", "a.jpg"}, "b"},
     };
@@ -150,17 +121,17 @@ TEST_F(AlphaNumericAction, AStartOutsideTheLettersIsUsedOnceThenSteppedIntoRange
 TEST_F(AlphaNumericAction, LetterPlacementWrapsTheNameDifferently)
 {
     const AlphabeticRow rows[] = {
-        {"both ends", {.prefix = true, .suffix = true, .separator = true, .separatorText = "_"}, "c",
-         {"photo_c_photo.jpg"}, "d"},
-        {"prefix", {.prefix = true, .separator = true, .separatorText = "_"}, "c", {"c_photo.jpg"}, "d"},
-        {"suffix", {.suffix = true, .separator = true, .separatorText = "_"}, "c", {"photo_c.jpg"}, "d"},
-        {"neither", {.separator = true, .separatorText = "_"}, "c", {"c.jpg"}, "d"},
-        {"mask longer than the value", {.prefix = true, .mask = "00"}, "c", {"0cphoto.jpg"}, "d"},
+        {"both ends", {.placement = Placement::BothEnds, .separator = "_"}, "c", {"photo_c_photo.jpg"}, "d"},
+        {"before", {.placement = Placement::BeforeName, .separator = "_"}, "c", {"c_photo.jpg"}, "d"},
+        {"after", {.placement = Placement::AfterName, .separator = "_"}, "c", {"photo_c.jpg"}, "d"},
+        {"instead of the name", {.separator = "_"}, "c", {"c.jpg"}, "d"},
+        {"mask longer than the value", {.placement = Placement::BeforeName, .paddingMask = "00"}, "c",
+         {"0cphoto.jpg"}, "d"},
         // A longer value is cut to the mask, and the sequence goes on from there.
-        {"mask shorter than the value", {.mask = "**"}, "abcd", {"ab.jpg", "ac.jpg"}, "ad"},
-        {"mask shorter, then carrying", {.mask = "**"}, "zz", {"zz.jpg", "aa.jpg"}, "ab"},
+        {"mask shorter than the value", {.paddingMask = "**"}, "abcd", {"ab.jpg", "ac.jpg"}, "ad"},
+        {"mask shorter, then carrying", {.paddingMask = "**"}, "zz", {"zz.jpg", "aa.jpg"}, "ab"},
         // Unlike numbers, letters take the separator and the mask as typed.
-        {"no slash conversion", {.prefix = true, .separator = true, .separatorText = "/", .mask = "/0"}, "c",
+        {"no slash conversion", {.placement = Placement::BeforeName, .separator = "/", .paddingMask = "/0"}, "c",
          {"/c/photo.jpg"}, "d"},
     };
     for (const AlphabeticRow& row : rows)
@@ -169,26 +140,81 @@ TEST_F(AlphaNumericAction, LetterPlacementWrapsTheNameDifferently)
 
 TEST_F(AlphaNumericAction, SequencesWorkOnTheNameAnEarlierStepProposed)
 {
-    expectNumeric({"numeric", {.prefix = true, .separator = true, .separatorText = "_"}, 0, {"0_new.md"}, 1}, "old.txt",
+    expectNumeric({"numeric", {.placement = Placement::BeforeName, .separator = "_"}, 0, {"0_new.md"}, 1}, "old.txt",
                   "new.md");
-    expectAlphabetic({"alphabetic", {.suffix = true}, "a", {"newa"}, "b"}, "old.txt", "new");
+    expectAlphabetic({"alphabetic", {.placement = Placement::AfterName}, "a", {"newa"}, "b"}, "old.txt", "new");
 }
 
 TEST_F(AlphaNumericAction, TheCounterIsWrittenBackAlsoWhenTheCallFails)
 {
-    FileSystemItem numbered = item("a.txt");
+    FileSystemItem record = item("a.txt");
     QString error = q("earlier");
     int number = 4;
-    EXPECT_FALSE(
-        renameByNumeric(numbered, true, false, false, false, false, QString(), QString(), number, 2, 1, error));
+    EXPECT_FALSE(renameByNumeric(record, {.step = 2}, number, error));
     EXPECT_EQ(number, 6);
-
-    FileSystemItem lettered = item("a.txt");
     QString letters = q("z");
-    EXPECT_FALSE(
-        renameByAlphabetic(lettered, true, false, false, false, false, QString(), QString(), letters, 1, 1, error));
+    EXPECT_FALSE(renameByAlphabetic(record, {.kind = SequenceKind::Alphabetic}, letters, error));
     EXPECT_EQ(letters, q("aa"));
     EXPECT_EQ(error, q("earlier"));
+}
+
+struct FromRow {
+    const char* name;
+    int incrementOrDecrement;  // -1: neither switch on
+    bool prefix;
+    bool suffix;
+    bool separator;
+    SequenceDirection direction;
+    int step;
+    SequencePlacement placement;
+    const char* separatorText;
+};
+
+TEST(SequenceOptionsFrom, TheSwitchesPickDirectionStepPlacementAndSeparator)
+{
+    const FromRow rows[] = {
+        {"increment", 0, false, false, false, SequenceDirection::Increment, 3, Placement::InsteadOfName, ""},
+        {"decrement", 1, true, false, true, decrement, 7, Placement::BeforeName, "_"},
+        {"neither", -1, false, true, false, stay, 1, Placement::AfterName, ""},
+        {"both ends", 0, true, true, true, SequenceDirection::Increment, 3, Placement::BothEnds, "_"},
+    };
+    for (const FromRow& row : rows) {
+        SCOPED_TRACE(row.name);
+        Settings settings;
+        settings.chooseIncrementOrDecrement(std::max(row.incrementOrDecrement, 0));
+        if (row.incrementOrDecrement < 0)
+            settings.setIsAlphaNumericIncrement(false);
+        settings.setAlphaNumericIncrementBy(q("3"));
+        settings.setAlphaNumericDecrementBy(q("7th"));
+        settings.setIsAlphaNumericPrefix(row.prefix);
+        settings.setIsAlphaNumericSufix(row.suffix);
+        settings.setIsAlphaNumericSeperator(row.separator);
+        settings.setAlphaNumericSeperator(q("_"));
+        const auto options = test::optionsFrom<SequenceOptions>(settings);
+        EXPECT_EQ(options.direction, row.direction);
+        EXPECT_EQ(options.step, row.step);
+        EXPECT_EQ(options.placement, row.placement);
+        EXPECT_EQ(options.separator, q(row.separatorText));
+    }
+}
+
+TEST(SequenceOptionsFrom, DecrementWinsAndTheStartsAreReadByKey)
+{
+    Settings settings;
+    settings.chooseNumericOrAlphabetic(1);
+    settings.setIsAlphaNumericIncrement(true);
+    settings.setIsAlphaNumericDecrement(true);
+    settings.setAlphaNumericDecrementBy(q("2"));
+    settings.setAlphaNumericPaddingMask(q("00"));
+    settings.setAlphaNumericNumericStartWith(q("-5"));
+    settings.setAlphaNumericAlphabeticStartWith(q("b"));
+    const auto options = test::optionsFrom<SequenceOptions>(settings);
+    EXPECT_EQ(options.kind, SequenceKind::Alphabetic);
+    EXPECT_EQ(options.direction, decrement);
+    EXPECT_EQ(options.step, 2);
+    EXPECT_EQ(options.paddingMask, q("00"));
+    EXPECT_EQ(options.numericStart, -5);
+    EXPECT_EQ(options.alphabeticStart, q("b"));
 }
 
 struct LetterRow {
@@ -216,8 +242,7 @@ TEST(AlphabeticNumber, NextCarriesFromTheRight)
         {q("a{"), 1, q("ba")},
     };
     for (const LetterRow& row : rows)
-        EXPECT_EQ(nextAlphabeticNumber(row.value, row.step), row.expected)
-            << qPrintable(row.value) << " + " << row.step;
+        EXPECT_EQ(nextAlphabeticNumber(row.value, row.step), row.expected) << qPrintable(row.value) << " + " << row.step;
 }
 
 TEST(AlphabeticNumber, PreviousBorrowsAndDropsTheFirstLetter)
@@ -235,19 +260,15 @@ TEST(AlphabeticNumber, PreviousBorrowsAndDropsTheFirstLetter)
         {QStringLiteral("a") + QChar(u'\0'), 1, q("z")},
     };
     for (const LetterRow& row : rows)
-        EXPECT_EQ(previousAlphabeticNumber(row.value, row.step), row.expected)
-            << qPrintable(row.value) << " - " << row.step;
+        EXPECT_EQ(previousAlphabeticNumber(row.value, row.step), row.expected) << qPrintable(row.value) << " - " << row.step;
 }
 
 TEST(AlphabeticNumber, InRangeMeansLowerCaseLettersOnly)
 {
-    EXPECT_TRUE(isAlphabeticNumericInRange(QString()));
-    EXPECT_TRUE(isAlphabeticNumericInRange(q("abcxyz")));
-    EXPECT_FALSE(isAlphabeticNumericInRange(q("aZ")));
-    EXPECT_FALSE(isAlphabeticNumericInRange(q("a1")));
-    EXPECT_FALSE(isAlphabeticNumericInRange(q("`")));
-    EXPECT_FALSE(isAlphabeticNumericInRange(q("{")));
-    EXPECT_FALSE(isAlphabeticNumericInRange(q("\xc3\xa9")));
+    for (const char* inRange : {"", "abcxyz"})
+        EXPECT_TRUE(isAlphabeticNumericInRange(q(inRange))) << inRange;
+    for (const char* outside : {"aZ", "a1", "`", "{", "\xc3\xa9"})
+        EXPECT_FALSE(isAlphabeticNumericInRange(q(outside))) << outside;
     EXPECT_FALSE(isAlphabeticNumericInRange(QStringLiteral("a") + QChar(u'\0')));
 }
 

@@ -9,193 +9,171 @@ using test::q;
 
 namespace {
 
-namespace option = insertoption;
-constexpr int fromEnd = insertdirection::FromEnd;
-
-struct InsertArgs {
-    const char* text = "X";
-    int option = option::AtBeginning;
-    int position = 1;
-    int direction = insertdirection::FromStart;
-    const char* before = "";
-    int beforeOccurrence = 1;
-    const char* after = "";
-    int afterOccurrence = 1;
-};
-
-struct InsertRow {
-    const char* onDisk;
-    InsertArgs args;
-    const char* expected;
-    const char* earlierProposal = "";
-};
-
-struct DeleteRow {
-    const char* onDisk;
-    bool fromBackward;
-    int position;
-    int count;
-    const char* expected;
-    const char* earlierProposal = "";
-};
+using InsertRow = test::ActionRow<InsertOptions>;
+using DeleteRow = test::ActionRow<DeleteOptions>;
+using namespace insertoption;
+constexpr auto fromEnd = insertdirection::FromEnd;
+constexpr int largest = std::numeric_limits<int>::max();
 
 class InsertDeleteAction : public test::ActionTest {
 protected:
-    void expectInserts(const std::initializer_list<InsertRow>& rows)
-    {
-        for (const InsertRow& row : rows) {
-            FileSystemItem record = item(row.onDisk, row.earlierProposal);
-            const InsertArgs& a = row.args;
-            QString error;
-            EXPECT_TRUE(renameByInsert(record, q(a.text), a.option, a.position, a.direction, q(a.before),
-                                       a.beforeOccurrence, q(a.after), a.afterOccurrence, error))
-                << row.onDisk;
-            EXPECT_EQ(error, QString());
-            EXPECT_EQ(record.newFilename(), q(row.expected))
-                << row.onDisk << " option " << a.option << " position " << a.position << " direction " << a.direction;
-        }
-    }
-
-    void expectDeletes(const std::initializer_list<DeleteRow>& rows)
-    {
-        for (const DeleteRow& row : rows) {
-            FileSystemItem record = item(row.onDisk, row.earlierProposal);
-            QString error;
-            EXPECT_TRUE(renameByDelete(record, row.fromBackward, row.position, row.count, error)) << row.onDisk;
-            EXPECT_EQ(error, QString());
-            EXPECT_EQ(record.newFilename(), q(row.expected)) << row.onDisk << (row.fromBackward ? " backward" : "")
-                                                             << " position " << row.position << " count " << row.count;
-        }
-    }
+    void expectInserts(std::initializer_list<InsertRow> rows) { expectRows<InsertOptions>(rows, renameByInsert); }
+    void expectDeletes(std::initializer_list<DeleteRow> rows) { expectRows<DeleteOptions>(rows, renameByDelete); }
 };
 
 TEST_F(InsertDeleteAction, InsertsAtEitherEndOfTheName)
 {
     expectInserts({
-        {"name.txt", {.text = "new-"}, "new-name.txt"},
-        {"name.txt", {.text = "-new", .option = option::AtEnd}, "name-new.txt"},
-        {"name", {.text = "-new", .option = option::AtEnd}, "name-new"},
-        {"x.tar.gz", {.text = "1", .option = option::AtEnd}, "x.tar1.gz"},
-        {"a.txt", {.text = "x/y"}, "x:ya.txt"},
+        {"beginning", "name.txt", {.text = "new-"}, "new-name.txt"},
+        {"end", "name.txt", {.text = "-new", .place = AtEnd}, "name-new.txt"},
+        {"end, no extension", "name", {.text = "-new", .place = AtEnd}, "name-new"},
+        {"end, double extension", "x.tar.gz", {.text = "1", .place = AtEnd}, "x.tar1.gz"},
+        {"typed slash", "a.txt", {.text = "x/y"}, "x:ya.txt"},
+        {"earlier proposal", "old.txt", {.text = "_1", .place = AtEnd}, "new_1.md", "new.md"},
+        {"earlier proposal without extension", "old.txt", {.text = "_1", .place = AtEnd}, "new_1", "new"},
+        {"earlier dot file", "old.txt", {.text = "_1", .place = AtEnd}, ".bashrc_1", ".bashrc"},
     });
 }
 
-TEST_F(InsertDeleteAction, InsertsAtAPositionFromTheStart)
+TEST_F(InsertDeleteAction, InsertsAtAPosition)
 {
-    const int at = option::AtPosition;
+    const InsertOptions at{.text = "-v2", .place = AtPosition};
+    const InsertOptions atEnd{.text = "AB", .place = AtPosition, .direction = fromEnd};
+    const auto with = [](InsertOptions options, int position) {
+        options.position = position;
+        return options;
+    };
     expectInserts({
-        {"report", {.text = "-v2", .option = at, .position = 7}, "report-v2"},
-        {"report", {.text = "-v2", .option = at, .position = 8}, "report"},
-        {"report", {.text = "-v2", .option = at, .position = 6}, "repor-v2t"},
-        {"report", {.text = "-v2", .option = at, .position = 1}, "-v2report"},
-        {"report", {.text = "-v2", .option = at, .position = 2}, "r-v2eport"},
-        {"report.txt", {.text = "-v2", .option = at, .position = 0}, "report.txt"},
-        {"report.txt", {.text = "-v2", .option = at, .position = -1}, "report.txt"},
-        {"report.txt", {.text = "-v2", .option = at, .position = 7}, "report-v2.txt"},
-    });
-}
-
-TEST_F(InsertDeleteAction, InsertsAtAPositionFromTheEndReadingForwards)
-{
-    const int at = option::AtPosition;
-    expectInserts({
-        {"report", {.text = "AB", .option = at, .position = 1, .direction = fromEnd}, "reportAB"},
-        {"report", {.text = "AB", .option = at, .position = 3, .direction = fromEnd}, "repoABrt"},
-        {"report", {.text = "AB", .option = at, .position = 7, .direction = fromEnd}, "ABreport"},
-        {"report", {.text = "AB", .option = at, .position = 8, .direction = fromEnd}, "report"},
-        {"report", {.text = "AB", .option = at, .position = 0, .direction = fromEnd}, "report"},
-        {"report.txt", {.text = "AB", .option = at, .position = 2, .direction = fromEnd}, "reporABt.txt"},
-        // Only a direction of exactly 1 counts from the end.
-        {"report", {.text = "AB", .option = at, .position = 3, .direction = 2}, "reABport"},
+        {"append", "report", with(at, 7), "report-v2"},
+        {"beyond the end", "report", with(at, 8), "report"},
+        {"before the last", "report", with(at, 6), "repor-v2t"},
+        {"first", "report", with(at, 1), "-v2report"},
+        {"second", "report", with(at, 2), "r-v2eport"},
+        {"zero", "report.txt", with(at, 0), "report.txt"},
+        {"negative", "report.txt", with(at, -1), "report.txt"},
+        {"before the extension", "report.txt", with(at, 7), "report-v2.txt"},
+        {"end, reading forwards", "report", with(atEnd, 1), "reportAB"},
+        {"end, third", "report", with(atEnd, 3), "repoABrt"},
+        {"end, at the start", "report", with(atEnd, 7), "ABreport"},
+        {"end, beyond", "report", with(atEnd, 8), "report"},
+        {"end, zero", "report", with(atEnd, 0), "report"},
+        {"end, extension stays", "report.txt", with(atEnd, 2), "reporABt.txt"},
+        // Only FromEnd counts from the end.
+        {"direction 2", "report",
+         {.text = "AB", .place = AtPosition, .position = 3,
+          .direction = test::unknown<insertdirection::InsertDirection>(2)},
+         "reABport"},
     });
 }
 
 TEST_F(InsertDeleteAction, InsertsBeforeOrAfterTheNthOccurrenceOfAnAnchor)
 {
-    const int before = option::BeforeText;
-    const int after = option::AfterText;
     expectInserts({
-        {"a_b_c", {.option = after, .after = "_", .afterOccurrence = 2}, "a_b_Xc"},
-        {"a_b_c", {.option = before, .before = "_", .beforeOccurrence = 2}, "a_bX_c"},
-        {"a_b_c", {.option = before, .before = "_", .beforeOccurrence = 1}, "aX_b_c"},
-        {"a_b_c", {.option = before, .before = "_", .beforeOccurrence = 3}, "a_b_c"},
-        {"a_b_c", {.option = after, .after = "_", .afterOccurrence = 0}, "a_b_c"},
-        {"abab", {.option = after, .after = "ab", .afterOccurrence = 2}, "ababX"},
-        {"abab", {.option = before, .before = "ab", .beforeOccurrence = 1}, "Xabab"},
-        // Anchors always match with their case.
-        {"abc", {.option = before, .before = "B"}, "abc"},
-        {"abc", {.option = after, .after = "B"}, "abc"},
-        {"abc", {.option = before, .before = ""}, "abc"},
-        // Each option reads its own anchor only.
-        {"a_b-c", {.option = after, .before = "_", .after = "-"}, "a_b-Xc"},
-        {"a:b", {.option = before, .before = "/"}, "aX:b"},
-        // The extension is never searched.
-        {"ab.c_d", {.option = after, .after = "_"}, "ab.c_d"},
+        {"after the second", "a_b_c", {.text = "X", .place = AfterText, .afterText = "_", .afterOccurrence = 2},
+         "a_b_Xc"},
+        {"before the second", "a_b_c", {.text = "X", .place = BeforeText, .beforeText = "_", .beforeOccurrence = 2},
+         "a_bX_c"},
+        {"before the first", "a_b_c", {.text = "X", .place = BeforeText, .beforeText = "_"}, "aX_b_c"},
+        {"missing occurrence", "a_b_c", {.text = "X", .place = BeforeText, .beforeText = "_", .beforeOccurrence = 3},
+         "a_b_c"},
+        {"occurrence 0", "a_b_c", {.text = "X", .place = AfterText, .afterText = "_", .afterOccurrence = 0},
+         "a_b_c"},
+        {"longer anchor", "abab", {.text = "X", .place = AfterText, .afterText = "ab", .afterOccurrence = 2},
+         "ababX"},
+        {"anchor at the start", "abab", {.text = "X", .place = BeforeText, .beforeText = "ab"}, "Xabab"},
+        {"case before", "abc", {.text = "X", .place = BeforeText, .beforeText = "B"}, "abc"},
+        {"case after", "abc", {.text = "X", .place = AfterText, .afterText = "B"}, "abc"},
+        {"empty anchor", "abc", {.text = "X", .place = BeforeText, .beforeText = ""}, "abc"},
+        {"own anchor only", "a_b-c", {.text = "X", .place = AfterText, .beforeText = "_", .afterText = "-"},
+         "a_b-Xc"},
+        {"typed slash anchor", "a:b", {.text = "X", .place = BeforeText, .beforeText = "/"}, "aX:b"},
+        {"extension never searched", "ab.c_d", {.text = "X", .place = AfterText, .afterText = "_"}, "ab.c_d"},
     });
 }
 
-TEST_F(InsertDeleteAction, AnUnknownOptionProposesNothing)
+TEST_F(InsertDeleteAction, AnUnknownPlaceProposesNothing)
 {
     expectInserts({
-        {"name.txt", {.option = 5}, ""},
-        {"name.txt", {.option = -1}, ""},
-        {"name.txt", {.option = 7}, "", "earlier.jpg"},
-    });
-}
-
-TEST_F(InsertDeleteAction, InsertsIntoTheNameAnEarlierStepProposed)
-{
-    expectInserts({
-        {"old.txt", {.text = "_1", .option = option::AtEnd}, "new_1.md", "new.md"},
-        {"old.txt", {.text = "_1", .option = option::AtEnd}, "new_1", "new"},
-        {"old.txt", {.text = "_1", .option = option::AtEnd}, ".bashrc_1", ".bashrc"},
+        {"5", "name.txt", {.place = test::unknown<InsertPlace>(5)}, ""},
+        {"-1", "name.txt", {.place = test::unknown<InsertPlace>(-1)}, ""},
+        {"over an earlier proposal", "name.txt", {.place = test::unknown<InsertPlace>(7)}, "", "earlier.jpg"},
     });
 }
 
 TEST_F(InsertDeleteAction, DeletesARunOfCharacters)
 {
     expectDeletes({
-        {"abcdef", false, 1, 2, "cdef"},
-        {"abcdef", true, 1, 2, "abcd"},
-        {"abcdef", false, 5, 3, "abcd"},
-        {"abcdef", false, 6, 1, "abcde"},
-        {"abcdef", false, 3, 1, "abdef"},
-        {"abc.txt", false, 1, 3, ".txt"},
-        {"abc", false, 1, 3, ""},
-        {"x.tar.gz", true, 1, 2, "x.t.gz"},
+        {"first two", "abcdef", {.fromPosition = 1, .count = 2}, "cdef"},
+        {"last two", "abcdef", {.fromBackward = true, .fromPosition = 1, .count = 2}, "abcd"},
+        {"run past the end", "abcdef", {.fromPosition = 5, .count = 3}, "abcd"},
+        {"last one", "abcdef", {.fromPosition = 6, .count = 1}, "abcde"},
+        {"middle", "abcdef", {.fromPosition = 3, .count = 1}, "abdef"},
+        {"whole name, extension stays", "abc.txt", {.fromPosition = 1, .count = 3}, ".txt"},
+        {"whole name", "abc", {.fromPosition = 1, .count = 3}, ""},
+        {"double extension", "x.tar.gz", {.fromBackward = true, .fromPosition = 1, .count = 2}, "x.t.gz"},
+        {"earlier proposal", "old.txt", {.fromPosition = 1, .count = 1}, "ew.md", "new.md"},
+        {"earlier proposal, backward", "old.txt", {.fromBackward = true, .fromPosition = 1, .count = 1}, "ne", "new"},
     });
 }
 
 TEST_F(InsertDeleteAction, DeleteEdgesArePartOfTheArithmetic)
 {
-    constexpr int largest = std::numeric_limits<int>::max();
     expectDeletes({
         // Position 0 deletes one character fewer.
-        {"abcdef", false, 0, 2, "bcdef"},
-        {"abcdef", false, 0, 1, "abcdef"},
-        {"abcdef", true, 0, 2, "abcde"},
-        // Nothing to delete.
-        {"abcdef", false, 1, 0, "abcdef"},
-        {"abcdef", false, 1, -1, "abcdef"},
-        // Positions beyond the end, and every negative one, delete nothing.
-        {"abcdef", false, 7, 1, "abcdef"},
-        {"abcdef", false, 70, 1, "abcdef"},
-        {"abcdef", false, -3, 2, "abcdef"},
-        {"abcdef", true, 7, 3, "abcdef"},
-        // A run past the end stops at the end, from either side.
-        {"abcdef", false, 2, largest, "a"},
-        {"abcdef", true, 5, 3, "cdef"},
-        {"abcdef", true, largest, largest, "abcdef"},
-        {"abc.txt", true, 1, 1, "ab.txt"},
+        {"position 0", "abcdef", {.fromPosition = 0, .count = 2}, "bcdef"},
+        {"position 0, one", "abcdef", {.fromPosition = 0, .count = 1}, "abcdef"},
+        {"position 0, backward", "abcdef", {.fromBackward = true, .fromPosition = 0, .count = 2}, "abcde"},
+        {"count 0", "abcdef", {.fromPosition = 1, .count = 0}, "abcdef"},
+        {"negative count", "abcdef", {.fromPosition = 1, .count = -1}, "abcdef"},
+        {"just beyond the end", "abcdef", {.fromPosition = 7, .count = 1}, "abcdef"},
+        {"far beyond the end", "abcdef", {.fromPosition = 70, .count = 1}, "abcdef"},
+        {"negative position", "abcdef", {.fromPosition = -3, .count = 2}, "abcdef"},
+        {"beyond, backward", "abcdef", {.fromBackward = true, .fromPosition = 7, .count = 3}, "abcdef"},
+        {"largest count", "abcdef", {.fromPosition = 2, .count = largest}, "a"},
+        {"past the start, backward", "abcdef", {.fromBackward = true, .fromPosition = 5, .count = 3}, "cdef"},
+        {"largest both", "abcdef", {.fromBackward = true, .fromPosition = largest, .count = largest}, "abcdef"},
+        {"backward, extension stays", "abc.txt", {.fromBackward = true, .fromPosition = 1, .count = 1}, "ab.txt"},
     });
 }
 
-TEST_F(InsertDeleteAction, DeletesFromTheNameAnEarlierStepProposed)
+TEST_F(InsertDeleteAction, AnErrorLeftByTheCallerIsReportedAsFailure)
 {
-    expectDeletes({
-        {"old.txt", false, 1, 1, "ew.md", "new.md"},
-        {"old.txt", true, 1, 1, "ne", "new"},
-    });
+    FileSystemItem record = item("ab.txt");
+    QString error = q("earlier");
+    EXPECT_FALSE(renameByInsert(record, {.text = "x"}, error));
+    EXPECT_FALSE(renameByDelete(record, {.count = 2}, error));
+    EXPECT_EQ(record.newFilename(), q("b.txt")) << "the delete works on the insert's proposal";
+    EXPECT_EQ(error, q("earlier"));
+}
+
+TEST(InsertDeleteOptionsFrom, TextsAndNumbersAreReadByKey)
+{
+    Settings settings;
+    settings.chooseInsertPosition(AfterText);
+    settings.setInsertDeleteInsert(q("x/y"));
+    settings.setInsertDeleteAtCharacterPositions(q("3rd"));
+    settings.setInsertDeleteInsertAtPostionDirection(fromEnd);
+    settings.setInsertDeleteInsertAtBeforeText(q("b"));
+    settings.setInsertDeleteInsertAtBeforeOccurrence(q("2"));
+    settings.setInsertDeleteInsertAtAfterText(q("a"));
+    settings.setInsertDeleteInsertAtAfterOccurrence(q("-1"));
+    settings.setIsInsertDeleteDeleteFromBackWard(true);
+    settings.setInsertDeleteFromCharacterPosition(q(" 4"));
+    settings.setInsertDeleteNumberOfCharacters(q("x"));
+
+    const auto insert = test::optionsFrom<InsertOptions>(settings);
+    EXPECT_EQ(insert.text, q("x/y"));
+    EXPECT_EQ(insert.place, AfterText);
+    EXPECT_EQ(insert.position, 3);
+    EXPECT_EQ(insert.direction, fromEnd);
+    EXPECT_EQ(insert.beforeText, q("b"));
+    EXPECT_EQ(insert.beforeOccurrence, 2);
+    EXPECT_EQ(insert.afterText, q("a"));
+    EXPECT_EQ(insert.afterOccurrence, -1);
+    const auto removal = test::optionsFrom<DeleteOptions>(settings);
+    EXPECT_TRUE(removal.fromBackward);
+    EXPECT_EQ(removal.fromPosition, 4);
+    EXPECT_EQ(removal.count, 0);
 }
 
 }  // namespace
