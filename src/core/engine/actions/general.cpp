@@ -63,8 +63,9 @@ QString maskedName(const QString& name, const QString& mask)
     return mask.left(mask.size() - name.size()) + name;
 }
 
-QString windowsCompatibleName(const QString& name, const QString& replacement)
+QString windowsCompatibleName(const QString& name, const GeneralOptions& options)
 {
+    const QString& replacement = options.windowsReplacement;
     QString result = name;
     for (const char16_t forbidden : std::u16string_view(windowsForbiddenCharacters))
         result = replaceString(result, QString(QChar(forbidden)), replacement, 1, -1, false);
@@ -102,7 +103,7 @@ QString transformedName(const QString& name, const GeneralOptions& in, bool isFi
     case generaloption::FilenameMask:
         return maskedName(name, in.filenameMask);
     case generaloption::ConvertWindowsCompatible:
-        return windowsCompatibleName(name, in.windowsReplacement);
+        return windowsCompatibleName(name, in);
     default:
         return name;
     }
@@ -116,7 +117,7 @@ bool dropsExtension(generaloption::GeneralOption option)
 QString proposedName(const FileSystemItem& item, const GeneralOptions& in)
 {
     const NameParts parts = workingNameParts(item);
-    const QString name = transformedName(parts.name, in, item.itemType() == ItemType::File);
+    QString name = transformedName(parts.name, in, item.itemType() == ItemType::File);
     const QString extension = in.option == generaloption::ConvertExtensionCase
         ? convertLetterCase(parts.extension, in.extensionCase)
         : parts.extension;

@@ -4,7 +4,7 @@ namespace tavrin {
 
 NameParts workingNameParts(const FileSystemItem& item)
 {
-    const QString proposed = item.newFilename();
+    const QString& proposed = item.newFilename();
     if (!proposed.isEmpty())
         return splitNameAndExtension(proposed);
     return {item.filename(), item.fileExtension()};
