@@ -10,9 +10,25 @@ namespace {
 
 using Row = test::ActionRow<ReplaceRemoveOptions>;
 using Mode = ReplaceRemoveMode;
+using Direction = replaceremovedirection::ReplaceRemoveDirection;
 constexpr auto fromEnd = replaceremovedirection::FromEnd;
 
-// The default options replace every occurrence from the first character.
+// `options` finding `find` and replacing it with `with`; by default every occurrence from
+// the first character on, case-insensitively.
+ReplaceRemoveOptions replace(const char* find, const char* with, ReplaceRemoveOptions options = {})
+{
+    options.find = q(find);
+    options.replacement = q(with);
+    return options;
+}
+
+ReplaceRemoveOptions occurrences(int first, int count, ReplaceRemoveOptions options = {})
+{
+    options.startOnOccurrence = first;
+    options.occurrenceCount = count;
+    return options;
+}
+
 class ReplaceRemoveAction : public test::ActionTest {
 protected:
     void expect(std::initializer_list<Row> rows) { expectRows<ReplaceRemoveOptions>(rows, renameByReplaceRemove); }
@@ -21,109 +37,85 @@ protected:
 TEST_F(ReplaceRemoveAction, TheStartPositionKeepsTheHeadOutOfTheSearch)
 {
     expect({
-        {"head kept", "abcabc", {.find = "b", .replacement = "X", .startFromCharacter = 3}, "abcaXc"},
-        {"start 2", "abcabc", {.find = "b", .replacement = "X", .startFromCharacter = 2}, "aXcaXc"},
+        {"head kept", "abcabc", replace("b", "X", {.startFromCharacter = 3}), "abcaXc"},
         // A start at or beyond the length, or below 2, searches the whole name.
-        {"at the length", "abc", {.find = "b", .replacement = "X", .startFromCharacter = 3}, "aXc"},
-        {"beyond", "abc", {.find = "b", .replacement = "X", .startFromCharacter = 4}, "aXc"},
-        {"zero", "abc", {.find = "b", .replacement = "X", .startFromCharacter = 0}, "aXc"},
-        {"negative", "abc", {.find = "b", .replacement = "X", .startFromCharacter = -2}, "aXc"},
-        {"straddling match", "abcd", {.find = "bc", .replacement = "X", .startFromCharacter = 3}, "abcd"},
+        {"at the length", "abc", replace("b", "X", {.startFromCharacter = 3}), "aXc"},
+        {"zero", "abc", replace("b", "X", {.startFromCharacter = 0}), "aXc"},
+        {"straddling match", "abcd", replace("bc", "X", {.startFromCharacter = 3}), "abcd"},
     });
 }
 
 TEST_F(ReplaceRemoveAction, ChangesChosenOccurrences)
 {
     expect({
-        {"second only", "aXbXcX", {.find = "X", .replacement = "-", .startOnOccurrence = 2, .occurrenceCount = 1},
-         "aXb-cX"},
-        {"second on", "aXbXcX", {.find = "X", .replacement = "-", .startOnOccurrence = 2}, "aXb-c-"},
-        {"two from the second", "a1a2a3a4",
-         {.find = "a", .replacement = "_", .startOnOccurrence = 2, .occurrenceCount = 2}, "a1_2_3a4"},
-        {"count beyond", "aXbXcX", {.find = "X", .replacement = "-", .startOnOccurrence = 3, .occurrenceCount = 5},
-         "aXbXc-"},
-        {"missing occurrence", "aXbX", {.find = "X", .replacement = "-", .startOnOccurrence = 5}, "aXbX"},
-        {"count 0", "aXbX", {.find = "X", .replacement = "-", .occurrenceCount = 0}, "aXbX"},
-        {"count below -1", "aXbX", {.find = "X", .replacement = "-", .occurrenceCount = -3}, "aXbX"},
-        {"occurrence 0 is the first", "aXbX",
-         {.find = "X", .replacement = "-", .startOnOccurrence = 0, .occurrenceCount = 1}, "a-bX"},
-        {"no overlap", "aaaa", {.find = "aa", .replacement = "X", .startOnOccurrence = 2, .occurrenceCount = 1},
-         "aaX"},
-        {"no overlap, too few", "aaa", {.find = "aa", .replacement = "X", .startOnOccurrence = 2}, "aaa"},
-        {"counted from the start position", "XaXbX",
-         {.find = "X", .replacement = "-", .startFromCharacter = 2, .startOnOccurrence = 2, .occurrenceCount = 1},
+        {"second only", "aXbXcX", replace("X", "-", occurrences(2, 1)), "aXb-cX"},
+        {"second on", "aXbXcX", replace("X", "-", occurrences(2, -1)), "aXb-c-"},
+        {"two from the second", "a1a2a3a4", replace("a", "_", occurrences(2, 2)), "a1_2_3a4"},
+        {"missing occurrence", "aXbX", replace("X", "-", occurrences(5, 1)), "aXbX"},
+        {"count 0", "aXbX", replace("X", "-", occurrences(1, 0)), "aXbX"},
+        {"count below -1", "aXbX", replace("X", "-", occurrences(1, -3)), "aXbX"},
+        {"occurrence 0 is the first", "aXbX", replace("X", "-", occurrences(0, 1)), "a-bX"},
+        {"no overlap", "aaaa", replace("aa", "X", occurrences(2, 1)), "aaX"},
+        {"counted from the start", "XaXbX", replace("X", "-", occurrences(2, 1, {.startFromCharacter = 2})),
          "XaXb-"},
-        {"case-insensitive occurrences", "xAxa",
-         {.find = "a", .replacement = "_", .startOnOccurrence = 2, .occurrenceCount = 1}, "xAx_"},
-        {"case-sensitive occurrences", "xAxa",
-         {.find = "a", .replacement = "_", .caseSensitive = true, .startOnOccurrence = 2}, "xAxa"},
-        {"case-sensitive", "aAa", {.find = "a", .replacement = "x", .caseSensitive = true}, "xAx"},
-        {"case-insensitive", "aAa", {.find = "a", .replacement = "x"}, "xxx"},
+        {"case-insensitive occurrences", "xAxa", replace("a", "_", occurrences(2, 1)), "xAx_"},
+        {"case-sensitive occurrences", "xAxa", replace("a", "_", occurrences(2, 1, {.caseSensitive = true})), "xAxa"},
+        {"case-sensitive", "aAa", replace("a", "x", {.caseSensitive = true}), "xAx"},
     });
 }
 
 TEST_F(ReplaceRemoveAction, TheModesDecideWhatReplacesAMatch)
 {
+    const ReplaceRemoveOptions characters{.mode = Mode::RemoveCharacters};
     expect({
-        {"remove ignores the replacement", "a-b-c.txt", {.mode = Mode::Remove, .find = "-", .replacement = "+"},
-         "abc.txt"},
-        {"remove the second", "a-b-c.txt", {.mode = Mode::Remove, .find = "-", .startOnOccurrence = 2}, "a-bc.txt"},
-        {"remove the whole name", "abc", {.mode = Mode::Remove, .find = "ABC"}, ""},
-        {"empty find text", "abc.txt", {.find = "", .replacement = "X"}, "abc.txt"},
-        {"characters", "Alpha Beta", {.mode = Mode::RemoveCharacters, .find = "ae"}, "lph Bt"},
-        {"characters with case", "Alpha Beta", {.mode = Mode::RemoveCharacters, .find = "ae", .caseSensitive = true},
-         "Alph Bt"},
-        {"characters ignore occurrences", "a-b-c",
-         {.mode = Mode::RemoveCharacters, .find = "-", .startOnOccurrence = 2, .occurrenceCount = 1}, "abc"},
-        {"characters after the start", "aaaa", {.mode = Mode::RemoveCharacters, .find = "a", .startFromCharacter = 3},
-         "aa"},
-        {"characters, not the extension", "abc.xyz", {.mode = Mode::RemoveCharacters, .find = "z"}, "abc.xyz"},
-        {"characters, typed slash", "a:b:c", {.mode = Mode::RemoveCharacters, .find = "/"}, "abc"},
-        {"no mode proposes nothing", "abc.txt", {.mode = Mode::None, .find = "a"}, ""},
-        {"no mode keeps an earlier proposal", "abc.txt", {.mode = Mode::None, .find = "x"}, "x.md", "x.md"},
+        {"remove ignores the replacement", "a-b-c.txt", replace("-", "+", {.mode = Mode::Remove}), "abc.txt"},
+        {"remove the whole name", "abc", replace("ABC", "", {.mode = Mode::Remove}), ""},
+        {"empty find text", "abc.txt", replace("", "X"), "abc.txt"},
+        {"characters", "Alpha Beta", replace("ae", "", characters), "lph Bt"},
+        {"characters with case", "Alpha Beta",
+         replace("ae", "", {.mode = Mode::RemoveCharacters, .caseSensitive = true}), "Alph Bt"},
+        {"characters ignore occurrences", "a-b-c", replace("-", "", occurrences(2, 1, characters)), "abc"},
+        {"characters after the start", "aaaa",
+         replace("a", "", {.mode = Mode::RemoveCharacters, .startFromCharacter = 3}), "aa"},
+        {"characters, typed slash", "a:b:c", replace("/", "", characters), "abc"},
+        {"no mode proposes nothing", "abc.txt", replace("a", "b", {.mode = Mode::None}), ""},
+        {"no mode keeps an earlier proposal", "abc.txt", replace("x", "y", {.mode = Mode::None}), "x.md", "x.md"},
     });
 }
 
 TEST_F(ReplaceRemoveAction, OnlyTheNameIsSearchedAndATypedSlashIsAColon)
 {
     expect({
-        {"find a slash", "a:b", {.find = "/", .replacement = "-"}, "a-b"},
-        {"replace with a slash", "a-b", {.find = "-", .replacement = "x/y"}, "ax:yb"},
-        {"extension", "a.b.txt", {.find = "txt", .replacement = "X"}, "a.b.txt"},
-        {"inner dot", "a.b.txt", {.find = ".", .replacement = "_"}, "a_b.txt"},
-        {"double extension", "x.tar.gz", {.find = "tar", .replacement = "t"}, "x.t.gz"},
-        {"earlier proposal", "old.png", {.find = "x", .replacement = "y"}, "y.jpg", "x.jpg"},
-        {"earlier proposal without extension", "old.png", {.find = "x", .replacement = "y"}, "y", "x"},
-        {"earlier dot file", "old.txt", {.find = "bash", .replacement = "zsh"}, ".zshrc", ".bashrc"},
-        {"earlier extension", "jpg.png", {.find = "jpg", .replacement = "X"}, "a.jpg", "a.jpg"},
+        {"find a slash", "a:b", replace("/", "-"), "a-b"},
+        {"replace with a slash", "a-b", replace("-", "x/y"), "ax:yb"},
+        {"extension", "a.b.txt", replace("txt", "X"), "a.b.txt"},
+        {"inner dot", "a.b.txt", replace(".", "_"), "a_b.txt"},
+        {"earlier proposal", "old.png", replace("x", "y"), "y.jpg", "x.jpg"},
+        {"earlier dot file", "old.txt", replace("bash", "zsh"), ".zshrc", ".bashrc"},
+        {"earlier extension", "jpg.png", replace("jpg", "X"), "a.jpg", "a.jpg"},
     });
 }
 
 TEST_F(ReplaceRemoveAction, FromTheEndWorksOnTheReversedName)
 {
+    const ReplaceRemoveOptions back{.direction = fromEnd};
     expect({
         // Texts are not reversed: a longer replacement comes out backwards, and a longer
         // find text matches where the name holds it backwards.
-        {"longer replacement", "a-b", {.find = "-", .replacement = "XY", .direction = fromEnd}, "aYXb"},
-        {"forwards find", "abcab", {.find = "ab", .replacement = "X", .direction = fromEnd}, "abcab"},
-        {"backwards find", "abcab", {.find = "ba", .replacement = "X", .direction = fromEnd}, "XcX"},
-        {"first from the end", "a-b-c", {.find = "-", .replacement = "+", .occurrenceCount = 1, .direction = fromEnd},
-         "a-b+c"},
-        {"second from the end", "a-b-c",
-         {.find = "-", .replacement = "+", .startOnOccurrence = 2, .occurrenceCount = 1, .direction = fromEnd},
-         "a+b-c"},
-        {"start from the end", "abcdef",
-         {.find = "b", .replacement = "X", .startFromCharacter = 3, .direction = fromEnd}, "aXcdef"},
-        {"head from the end", "abcdef",
-         {.find = "e", .replacement = "X", .startFromCharacter = 3, .direction = fromEnd}, "abcdef"},
-        {"extension stays", "abc.txt", {.find = "c", .replacement = "Z", .direction = fromEnd}, "abZ.txt"},
+        {"longer replacement", "a-b", replace("-", "XY", back), "aYXb"},
+        {"forwards find", "abcab", replace("ab", "X", back), "abcab"},
+        {"backwards find", "abcab", replace("ba", "X", back), "XcX"},
+        {"first from the end", "a-b-c", replace("-", "+", occurrences(1, 1, back)), "a-b+c"},
+        {"second from the end", "a-b-c", replace("-", "+", occurrences(2, 1, back)), "a+b-c"},
+        {"start from the end", "abcdef", replace("b", "X", {.startFromCharacter = 3, .direction = fromEnd}),
+         "aXcdef"},
+        {"head from the end", "abcdef", replace("e", "X", {.startFromCharacter = 3, .direction = fromEnd}),
+         "abcdef"},
+        {"extension stays", "abc.txt", replace("c", "Z", back), "abZ.txt"},
         // Any other direction reverses the name but never reverses it back.
         {"direction 2", "abc.txt",
-         {.find = "a", .replacement = "A", .caseSensitive = true,
-          .direction = test::unknown<replaceremovedirection::ReplaceRemoveDirection>(2)},
-         "cbA.txt"},
-        {"direction -1", "abc",
-         {.find = "q", .direction = test::unknown<replaceremovedirection::ReplaceRemoveDirection>(-1)}, "cba"},
+         replace("a", "A", {.caseSensitive = true, .direction = test::unknown<Direction>(2)}), "cbA.txt"},
+        {"direction -1", "abc", replace("q", "", {.direction = test::unknown<Direction>(-1)}), "cba"},
     });
 }
 
@@ -131,7 +123,7 @@ TEST_F(ReplaceRemoveAction, AnErrorLeftByTheCallerIsReportedAsFailure)
 {
     FileSystemItem record = item("a.txt");
     QString error = q("earlier");
-    EXPECT_FALSE(renameByReplaceRemove(record, {.find = "a", .replacement = "b"}, error));
+    EXPECT_FALSE(renameByReplaceRemove(record, replace("a", "b"), error));
     EXPECT_EQ(record.newFilename(), q("b.txt"));
     EXPECT_FALSE(renameByReplaceRemove(record, {.mode = Mode::None}, error));
     EXPECT_EQ(error, q("earlier"));
@@ -148,21 +140,19 @@ struct FromRow {
 
 TEST(ReplaceRemoveOptionsFrom, TheSwitchesPickTheModeAndTheOccurrences)
 {
+    const int all = replaceremoveall::OccurrenceCount;
     const FromRow rows[] = {
-        {"replace, all", 0, true, Mode::Replace, replaceremoveall::StartOnOccurrence,
-         replaceremoveall::OccurrenceCount},
+        {"replace, all", 0, true, Mode::Replace, replaceremoveall::StartOnOccurrence, all},
         {"replace, chosen", 0, false, Mode::Replace, 2, 1},
-        {"remove, all", 1, true, Mode::Remove, replaceremoveall::StartOnOccurrence,
-         replaceremoveall::OccurrenceCount},
+        {"remove, all", 1, true, Mode::Remove, replaceremoveall::StartOnOccurrence, all},
         {"remove characters", 2, false, Mode::RemoveCharacters, 2, 1},
         {"no mode", -1, false, Mode::None, 2, 1},
     };
     for (const FromRow& row : rows) {
         SCOPED_TRACE(row.name);
         Settings settings;
-        settings.chooseReplaceRemoveMode(row.modeIndex < 0 ? 0 : row.modeIndex);
-        if (row.modeIndex < 0)
-            settings.setIsReplaceRemoveReplace(false);
+        settings.chooseReplaceRemoveMode(std::max(row.modeIndex, 0));
+        settings.setIsReplaceRemoveReplace(row.modeIndex != -1 && settings.isReplaceRemoveReplace());
         settings.setIsReplaceRemoveAllOccurrence(row.allOccurrences);
         settings.setReplaceRemoveThis(q("-"));
         settings.setReplaceRemoveWith(q("+"));
@@ -175,8 +165,7 @@ TEST(ReplaceRemoveOptionsFrom, TheSwitchesPickTheModeAndTheOccurrences)
         EXPECT_EQ(options.mode, row.mode);
         EXPECT_EQ(options.startOnOccurrence, row.startOnOccurrence);
         EXPECT_EQ(options.occurrenceCount, row.occurrenceCount);
-        EXPECT_EQ(options.find, q("-"));
-        EXPECT_EQ(options.replacement, q("+"));
+        EXPECT_EQ(options.find + options.replacement, q("-+"));
         EXPECT_EQ(options.startFromCharacter, 3);
         EXPECT_EQ(options.direction, fromEnd);
         EXPECT_TRUE(options.caseSensitive);
