@@ -9,6 +9,7 @@
 #include "support/TempTree.h"
 
 #include <QDir>
+#include <QLocale>
 #include <gtest/gtest.h>
 
 using namespace tavrin;
@@ -244,6 +245,44 @@ TEST_F(PipelineTest, ALogFolderThatCannotBeWrittenAsksWhetherToGoOn)
     EXPECT_TRUE(tree.exists(u"A.txt"_s));
 }
 
+TEST_F(PipelineTest, ACancelledPreviewStopsBeforeTheNextRecord)
+{
+    list({u"a.txt"_s, u"b.txt"_s});
+    cancel.store(true);
+    const PropertyOptionValues values(settings);
+    EXPECT_TRUE(Pipeline(files, values).preview(cancel, nullptr).cancelled);
+    EXPECT_EQ(files.at(0).newFilename(), QString());
+}
+
+TEST_F(PipelineTest, ANameTooLongForTheFileSystemIsNoChange)
+{
+    list({u"a.txt"_s});
+    settings.setSelectedTab(tabs::InsertDelete);
+    settings.setInsertDeleteInsert(QString(255, u'x'));
+    EXPECT_FALSE(preview().hasFilesForRenaming);
+    EXPECT_EQ(files.at(0).newFilename(), statusText(status::NoChanges));
+}
+
+TEST_F(PipelineTest, ApplyChecksEachProposalAgain)
+{
+    list({u"a.txt"_s, u"b.txt"_s, u"c.txt"_s});
+    settings.setSelectedTab(tabs::InsertDelete);
+    settings.chooseGeneralOption(generaloption::ReverseFilename);
+    files.at(0).setObject(u"a.txt"_s, u"newFilename"_s);
+    files.at(1).setObject(u"taken.txt"_s, u"newFilename"_s);
+    files.at(2).setObject(u"free.txt"_s, u"newFilename"_s);
+    tree.file(u"taken.txt"_s, "other");
+
+    const ApplyOutcome outcome = apply();
+
+    EXPECT_EQ(outcome.renamed, 1);
+    EXPECT_EQ(outcome.failed, 2);
+    EXPECT_EQ(files.at(0).newFilename(), statusText(status::NoChanges));
+    EXPECT_EQ(files.at(1).newFilename(), statusText(status::FileAlreadyExists));
+    EXPECT_EQ(tree.read(u"taken.txt"_s), QByteArray("other"));
+    EXPECT_TRUE(tree.exists(u"free.txt"_s));
+}
+
 struct SequenceRunRow {
     const char* name;
     bool numeric;
@@ -332,6 +371,13 @@ TEST_F(PipelineTest, EachTabRunsItsOwnAction)
         preview();
         EXPECT_EQ(files.at(0).newFilename(), row.expected);
     }
+}
+
+TEST(TimeTakenText, NamesTheOperationAndTheSeconds)
+{
+    const QString text = timeTakenText(1.5, "PREVIEWTIME");
+    EXPECT_TRUE(text.contains(QLocale().toString(1.5, 'f', 2))) << qPrintable(text);
+    EXPECT_FALSE(text.contains(u"PREVIEWTIME"_s)) << qPrintable(text);
 }
 
 TEST(ActionRegistry, RulesNameTheActionsOfTheirTabs)

@@ -34,22 +34,17 @@ TEST_F(GeneralAction, ConvertsTheLetterCaseOfTheNameOrTheExtension)
         {"upper", "hello World.txt", {.fileNameCase = Upper}, "HELLO WORLD.txt"},
         {"lower", "Hello World.TXT", {.fileNameCase = Lower}, "hello world.TXT"},
         {"proper", "hELLO wORLD.txt", {.fileNameCase = Proper}, "Hello World.txt"},
-        {"no extension", "hello", {.fileNameCase = Upper}, "HELLO"},
         {"unknown code", "Hello.txt", {.fileNameCase = test::unknown<LetterCase>(4)}, "Hello.txt"},
         {"sharp s", "stra\xc3\x9f" "e.txt", {.fileNameCase = Upper}, "STRASSE.txt"},
-        {"accents", "\xc3\x89T\xc3\x89.txt", {.fileNameCase = Lower}, "\xc3\xa9t\xc3\xa9.txt"},
         {"dot at the end", "a.", {.fileNameCase = Upper}, "A."},
         {"earlier proposal", "old.md", {.fileNameCase = Upper}, "NEW.txt", "New.txt"},
         {"extension upper", "photo.jpg", {.option = ConvertExtensionCase, .extensionCase = Upper}, "photo.JPG"},
-        {"extension lower", "Photo.JPG", {.option = ConvertExtensionCase, .extensionCase = Lower}, "Photo.jpg"},
         {"extension proper", "Photo.tAR", {.option = ConvertExtensionCase, .extensionCase = Proper}, "Photo.Tar"},
         {"no extension to convert", "README", {.option = ConvertExtensionCase, .extensionCase = Upper}, "README"},
         {"last extension only", "archive.tar.gz", {.option = ConvertExtensionCase, .extensionCase = Upper},
          "archive.tar.GZ"},
         {"the name's code has no say", "name.txt", {.option = ConvertExtensionCase, .fileNameCase = Upper},
          "name.txt"},
-        {"earlier proposal without extension", "old.md",
-         {.option = ConvertExtensionCase, .extensionCase = Upper}, "New", "New"},
     });
 }
 
@@ -57,14 +52,12 @@ TEST_F(GeneralAction, RemovesOrChangesTheExtension)
 {
     expect({
         {"remove", "a.txt", {.option = RemoveExtension}, "a"},
-        {"remove the last", "a.tar.gz", {.option = RemoveExtension}, "a.tar"},
         {"nothing to remove", "noext", {.option = RemoveExtension}, "noext"},
         {"a dot at the end is no extension", "a.", {.option = RemoveExtension}, "a."},
         {"remove from a proposal", "old.md", {.option = RemoveExtension}, "New", "New.txt"},
         {"change", "a.txt", {.option = ChangeExtension, .changeExtension = "md"}, "a.md"},
         {"add", "noext", {.option = ChangeExtension, .changeExtension = "md"}, "noext.md"},
         {"change to nothing", "a.txt", {.option = ChangeExtension}, "a."},
-        {"change to two", "a.txt", {.option = ChangeExtension, .changeExtension = "tar.gz"}, "a.tar.gz"},
         {"typed slash", "a.txt", {.option = ChangeExtension, .changeExtension = "x/y"}, "a.x:y"},
         {"change a proposal", "old.md", {.option = ChangeExtension, .changeExtension = "jpg"}, "x:y.jpg", "x:y.png"},
     });
@@ -84,12 +77,10 @@ TEST_F(GeneralAction, ReversesSwapsAndRemovesSpacesInTheNameOnly)
 {
     expect({
         {"reverse", "abc.txt", {.option = ReverseFilename}, "cba.txt"},
-        {"reverse, no extension", "abc", {.option = ReverseFilename}, "cba"},
         {"reverse, inner dots", "a b.c d.txt", {.option = ReverseFilename}, "d c.b a.txt"},
         {"reverse a proposal", "old", {.option = ReverseFilename}, "cba.d", "abc.d"},
         {"reverse a dot file", "old.md", {.option = ReverseFilename}, "crhsab.", ".bashrc"},
         {"spaces", " a b  c .txt", {.option = RemoveSpaces}, "abc.txt"},
-        {"spaces, no extension", "a b", {.option = RemoveSpaces}, "ab"},
         {"tabs stay", "a\tb.txt", {.option = RemoveSpaces}, "a\tb.txt"},
         {"spaces in the extension stay", "ab.t xt", {.option = RemoveSpaces}, "ab.t xt"},
         {"swap", "John-Smith.txt", {.option = SwapBySeperator, .swapSeperator = "-"}, "Smith-John.txt"},
@@ -102,7 +93,6 @@ TEST_F(GeneralAction, ReversesSwapsAndRemovesSpacesInTheNameOnly)
         {"position 1", "abcdef.txt", {.option = SwapByPosition, .swapPosition = 1}, "bcdefa.txt"},
         {"position beyond", "abcdef.txt", {.option = SwapByPosition, .swapPosition = 7}, "abcdef.txt"},
         {"position 0", "abcdef.txt", {.option = SwapByPosition, .swapPosition = 0}, "abcdef.txt"},
-        {"negative position", "abcdef.txt", {.option = SwapByPosition, .swapPosition = -2}, "abcdef.txt"},
     });
 }
 
@@ -137,7 +127,6 @@ TEST_F(GeneralAction, TheMaskRightAlignsTheName)
         {"padded", "5.txt", mask("000"), "005.txt"},
         {"cut on the left", "12345.txt", mask("000"), "345.txt"},
         {"as wide", "123.txt", mask("000"), "123.txt"},
-        {"no extension", "7", mask("0000"), "0007"},
         {"the mask's own characters", "7.txt", mask("abcd"), "abc7.txt"},
         {"empty mask", "7.txt", mask(""), "7.txt"},
         {"typed slash", "7.txt", mask("a/b"), "a:7.txt"},
@@ -165,7 +154,6 @@ TEST_F(GeneralAction, AnUnknownOptionLeavesTheName)
 {
     expect({
         {"12", "Name.txt", {.option = test::unknown<GeneralOption>(12), .fileNameCase = Upper}, "Name.txt"},
-        {"-1", "Name.txt", {.option = test::unknown<GeneralOption>(-1), .fileNameCase = Upper}, "Name.txt"},
     });
 }
 
@@ -195,20 +183,12 @@ TEST(GeneralOptionsFrom, IndexesAndTextsAreReadByKey)
     settings.setGeneralRemoveFromStringOccurrence(q("-1"));
     settings.setGeneralConvertWindowsCompatibleString(q("_"));
     settings.setGeneralFilenameMask(q("000"));
-
-    const auto options = test::optionsFrom<GeneralOptions>(settings);
-    EXPECT_EQ(options.option, SwapByPosition);
-    EXPECT_EQ(options.fileNameCase, Lower);
-    EXPECT_EQ(options.extensionCase, Proper);
-    EXPECT_EQ(options.changeExtension, q("md"));
-    EXPECT_EQ(options.swapSeperator, q("-"));
-    EXPECT_EQ(options.swapPosition, 3);
-    EXPECT_EQ(options.removeAfterString, q("a"));
-    EXPECT_EQ(options.removeAfterOccurrence, 2);
-    EXPECT_EQ(options.removeFromString, q("b"));
-    EXPECT_EQ(options.removeFromOccurrence, -1);
-    EXPECT_EQ(options.windowsReplacement, q("_"));
-    EXPECT_EQ(options.filenameMask, q("000"));
+    const auto o = test::optionsFrom<GeneralOptions>(settings);
+    EXPECT_EQ(QList<int>({o.option, o.fileNameCase, o.extensionCase}), QList<int>({SwapByPosition, Lower, Proper}));
+    EXPECT_EQ(QList<int>({o.swapPosition, o.removeAfterOccurrence, o.removeFromOccurrence}), QList<int>({3, 2, -1}));
+    EXPECT_EQ(QStringList({o.changeExtension, o.swapSeperator, o.removeAfterString, o.removeFromString,
+                           o.windowsReplacement, o.filenameMask}),
+              QStringList({q("md"), q("-"), q("a"), q("b"), q("_"), q("000")}));
 }
 
 struct CaseRow {

@@ -26,11 +26,9 @@ TEST_F(InsertDeleteAction, InsertsAtEitherEndOfTheName)
     expectInserts({
         {"beginning", "name.txt", {.text = "new-"}, "new-name.txt"},
         {"end", "name.txt", {.text = "-new", .place = AtEnd}, "name-new.txt"},
-        {"end, no extension", "name", {.text = "-new", .place = AtEnd}, "name-new"},
         {"end, double extension", "x.tar.gz", {.text = "1", .place = AtEnd}, "x.tar1.gz"},
         {"typed slash", "a.txt", {.text = "x/y"}, "x:ya.txt"},
         {"earlier proposal", "old.txt", {.text = "_1", .place = AtEnd}, "new_1.md", "new.md"},
-        {"earlier proposal without extension", "old.txt", {.text = "_1", .place = AtEnd}, "new_1", "new"},
         {"earlier dot file", "old.txt", {.text = "_1", .place = AtEnd}, ".bashrc_1", ".bashrc"},
     });
 }
@@ -50,13 +48,11 @@ TEST_F(InsertDeleteAction, InsertsAtAPosition)
         {"first", "report", with(at, 1), "-v2report"},
         {"second", "report", with(at, 2), "r-v2eport"},
         {"zero", "report.txt", with(at, 0), "report.txt"},
-        {"negative", "report.txt", with(at, -1), "report.txt"},
         {"before the extension", "report.txt", with(at, 7), "report-v2.txt"},
         {"end, reading forwards", "report", with(atEnd, 1), "reportAB"},
         {"end, third", "report", with(atEnd, 3), "repoABrt"},
         {"end, at the start", "report", with(atEnd, 7), "ABreport"},
         {"end, beyond", "report", with(atEnd, 8), "report"},
-        {"end, zero", "report", with(atEnd, 0), "report"},
         {"end, extension stays", "report.txt", with(atEnd, 2), "reporABt.txt"},
         // Only FromEnd counts from the end.
         {"direction 2", "report",
@@ -82,7 +78,6 @@ TEST_F(InsertDeleteAction, InsertsBeforeOrAfterTheNthOccurrenceOfAnAnchor)
          "ababX"},
         {"anchor at the start", "abab", {.text = "X", .place = BeforeText, .beforeText = "ab"}, "Xabab"},
         {"case before", "abc", {.text = "X", .place = BeforeText, .beforeText = "B"}, "abc"},
-        {"case after", "abc", {.text = "X", .place = AfterText, .afterText = "B"}, "abc"},
         {"empty anchor", "abc", {.text = "X", .place = BeforeText, .beforeText = ""}, "abc"},
         {"own anchor only", "a_b-c", {.text = "X", .place = AfterText, .beforeText = "_", .afterText = "-"},
          "a_b-Xc"},
@@ -95,7 +90,6 @@ TEST_F(InsertDeleteAction, AnUnknownPlaceProposesNothing)
 {
     expectInserts({
         {"5", "name.txt", {.place = test::unknown<InsertPlace>(5)}, ""},
-        {"-1", "name.txt", {.place = test::unknown<InsertPlace>(-1)}, ""},
         {"over an earlier proposal", "name.txt", {.place = test::unknown<InsertPlace>(7)}, "", "earlier.jpg"},
     });
 }
@@ -106,8 +100,6 @@ TEST_F(InsertDeleteAction, DeletesARunOfCharacters)
         {"first two", "abcdef", {.fromPosition = 1, .count = 2}, "cdef"},
         {"last two", "abcdef", {.fromBackward = true, .fromPosition = 1, .count = 2}, "abcd"},
         {"run past the end", "abcdef", {.fromPosition = 5, .count = 3}, "abcd"},
-        {"last one", "abcdef", {.fromPosition = 6, .count = 1}, "abcde"},
-        {"middle", "abcdef", {.fromPosition = 3, .count = 1}, "abdef"},
         {"whole name, extension stays", "abc.txt", {.fromPosition = 1, .count = 3}, ".txt"},
         {"whole name", "abc", {.fromPosition = 1, .count = 3}, ""},
         {"double extension", "x.tar.gz", {.fromBackward = true, .fromPosition = 1, .count = 2}, "x.t.gz"},
@@ -126,7 +118,6 @@ TEST_F(InsertDeleteAction, DeleteEdgesArePartOfTheArithmetic)
         {"count 0", "abcdef", {.fromPosition = 1, .count = 0}, "abcdef"},
         {"negative count", "abcdef", {.fromPosition = 1, .count = -1}, "abcdef"},
         {"just beyond the end", "abcdef", {.fromPosition = 7, .count = 1}, "abcdef"},
-        {"far beyond the end", "abcdef", {.fromPosition = 70, .count = 1}, "abcdef"},
         {"negative position", "abcdef", {.fromPosition = -3, .count = 2}, "abcdef"},
         {"beyond, backward", "abcdef", {.fromBackward = true, .fromPosition = 7, .count = 3}, "abcdef"},
         {"largest count", "abcdef", {.fromPosition = 2, .count = largest}, "a"},
@@ -157,19 +148,15 @@ TEST(InsertDeleteOptionsFrom, TextsAndNumbersAreReadByKey)
     settings.setInsertDeleteInsertAtBeforeOccurrence(q("2"));
     settings.setInsertDeleteInsertAtAfterText(q("a"));
     settings.setInsertDeleteInsertAtAfterOccurrence(q("-1"));
+    const auto insert = test::optionsFrom<InsertOptions>(settings);
+    EXPECT_EQ(insert.text + insert.beforeText + insert.afterText, q("x/yba"));
+    EXPECT_EQ(insert.place, AfterText);
+    EXPECT_EQ(insert.direction, fromEnd);
+    EXPECT_EQ(QList<int>({insert.position, insert.beforeOccurrence, insert.afterOccurrence}), QList<int>({3, 2, -1}));
+
     settings.setIsInsertDeleteDeleteFromBackWard(true);
     settings.setInsertDeleteFromCharacterPosition(q(" 4"));
     settings.setInsertDeleteNumberOfCharacters(q("x"));
-
-    const auto insert = test::optionsFrom<InsertOptions>(settings);
-    EXPECT_EQ(insert.text, q("x/y"));
-    EXPECT_EQ(insert.place, AfterText);
-    EXPECT_EQ(insert.position, 3);
-    EXPECT_EQ(insert.direction, fromEnd);
-    EXPECT_EQ(insert.beforeText, q("b"));
-    EXPECT_EQ(insert.beforeOccurrence, 2);
-    EXPECT_EQ(insert.afterText, q("a"));
-    EXPECT_EQ(insert.afterOccurrence, -1);
     const auto removal = test::optionsFrom<DeleteOptions>(settings);
     EXPECT_TRUE(removal.fromBackward);
     EXPECT_EQ(removal.fromPosition, 4);
