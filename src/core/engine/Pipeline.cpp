@@ -1,10 +1,10 @@
 #include "core/engine/Pipeline.h"
 
 #include "core/engine/FolderPathIndex.h"
+#include "core/engine/actions/general.h"
 #include "core/list/FileList.h"
 #include "core/list/StatusTexts.h"
 #include "core/log/RenameLog.h"
-#include "core/engine/actions/general.h"
 #include "core/platform/FileOperations.h"
 #include "core/profiles/Settings.h"
 #include "core/profiles/Tabs.h"

@@ -168,7 +168,8 @@ bool isAlphabeticNumericInRange(const QString& value)
 SequenceOptions SequenceOptions::from(const OptionValues& values)
 {
     SequenceOptions options;
-    options.kind = values.boolean(Settings::isAlphaNumericNumericKey) ? SequenceKind::Numeric : SequenceKind::Alphabetic;
+    options.kind
+        = values.boolean(Settings::isAlphaNumericNumericKey) ? SequenceKind::Numeric : SequenceKind::Alphabetic;
     if (values.boolean(Settings::isAlphaNumericDecrementKey)) {
         options.direction = SequenceDirection::Decrement;
         options.step = values.integer(Settings::alphaNumericDecrementByKey);

@@ -80,8 +80,8 @@ InsertOptions InsertOptions::from(const OptionValues& values)
     options.text = values.text(Settings::insertDeleteInsertKey);
     options.place = static_cast<insertoption::InsertPlace>(values.integer(Settings::insertDeleteInsertOptionIndexKey));
     options.position = values.integer(Settings::insertDeleteAtCharacterPositionsKey);
-    options.direction
-        = static_cast<insertdirection::InsertDirection>(values.integer(Settings::insertDeleteInsertAtPostionDirectionKey));
+    const int direction = values.integer(Settings::insertDeleteInsertAtPostionDirectionKey);
+    options.direction = static_cast<insertdirection::InsertDirection>(direction);
     options.beforeText = values.text(Settings::insertDeleteInsertAtBeforeTextKey);
     options.beforeOccurrence = values.integer(Settings::insertDeleteInsertAtBeforeOccurrenceKey);
     options.afterText = values.text(Settings::insertDeleteInsertAtAfterTextKey);

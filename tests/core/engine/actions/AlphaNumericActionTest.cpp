@@ -237,8 +237,10 @@ TEST(AlphabeticNumber, NextCarriesFromTheRight)
         {q("A"), 1, q("B")},
         {q("a{"), 1, q("ba")},
     };
-    for (const LetterRow& row : rows)
-        EXPECT_EQ(nextAlphabeticNumber(row.value, row.step), row.expected) << qPrintable(row.value) << " + " << row.step;
+    for (const LetterRow& row : rows) {
+        SCOPED_TRACE(testing::Message() << qPrintable(row.value) << '+' << row.step);
+        EXPECT_EQ(nextAlphabeticNumber(row.value, row.step), row.expected);
+    }
 }
 
 TEST(AlphabeticNumber, PreviousBorrowsAndDropsTheFirstLetter)
@@ -255,8 +257,10 @@ TEST(AlphabeticNumber, PreviousBorrowsAndDropsTheFirstLetter)
         // What the action makes of an empty value steps on to "z".
         {QStringLiteral("a") + QChar(u'\0'), 1, q("z")},
     };
-    for (const LetterRow& row : rows)
-        EXPECT_EQ(previousAlphabeticNumber(row.value, row.step), row.expected) << qPrintable(row.value) << " - " << row.step;
+    for (const LetterRow& row : rows) {
+        SCOPED_TRACE(testing::Message() << qPrintable(row.value) << '-' << row.step);
+        EXPECT_EQ(previousAlphabeticNumber(row.value, row.step), row.expected);
+    }
 }
 
 TEST(AlphabeticNumber, InRangeMeansLowerCaseLettersOnly)

@@ -98,11 +98,11 @@ TEST_F(GeneralAction, ReversesSwapsAndRemovesSpacesInTheNameOnly)
 
 TEST_F(GeneralAction, CutsAfterOrFromTheNthOccurrence)
 {
-    const auto after = [](const char* text, int occurrence) {
-        return GeneralOptions{.option = RemoveAfterString, .removeAfterString = text, .removeAfterOccurrence = occurrence};
+    const auto after = [](const char* text, int nth) {
+        return GeneralOptions{.option = RemoveAfterString, .removeAfterString = text, .removeAfterOccurrence = nth};
     };
-    const auto from = [](const char* text, int occurrence) {
-        return GeneralOptions{.option = RemoveFromString, .removeFromString = text, .removeFromOccurrence = occurrence};
+    const auto from = [](const char* text, int nth) {
+        return GeneralOptions{.option = RemoveFromString, .removeFromString = text, .removeFromOccurrence = nth};
     };
     expect({
         {"after the second", "a-b-c.txt", after("-", 2), "a-b-.txt"},
