@@ -18,7 +18,7 @@ PropertyOptionValues::PropertyOptionValues(const QObject& object)
 
 QVariant PropertyOptionValues::value(const char* key) const
 {
-    const auto found = m_values.constFind(QByteArray::fromRawData(key, qstrlen(key)));
+    const auto found = m_values.constFind(QByteArray::fromRawData(key, static_cast<qsizetype>(qstrlen(key))));
     if (found == m_values.constEnd()) {
         qWarning("Unknown option key %s", key);
         return {};

@@ -113,7 +113,7 @@ QList<int> letterCodes(const QString& value)
 
 QChar characterOf(int code)
 {
-    return QChar(static_cast<char16_t>(code));
+    return {static_cast<char16_t>(code)};
 }
 
 }  // namespace
