@@ -25,34 +25,23 @@ struct SequenceRow {
 };
 
 using NumericRow = SequenceRow<int>;
-using AlphabeticRow = SequenceRow<const char*>;
+using AlphabeticRow = SequenceRow<QString>;
 
 class AlphaNumericAction : public test::ActionTest {
 protected:
-    void expectNumeric(const NumericRow& row, const char* onDisk = "photo.jpg", const char* earlier = "")
+    template <typename Counter, typename Action>
+    void expectRun(const SequenceRow<Counter>& row, Action action, const char* onDisk = "photo.jpg",
+                   const char* earlier = "")
     {
         SCOPED_TRACE(row.name);
-        int counter = row.start;
+        Counter counter = row.start;
         for (const char* expected : row.expected) {
             FileSystemItem record = item(onDisk, earlier);
             QString error;
-            EXPECT_TRUE(renameByNumeric(record, row.options, counter, error));
+            EXPECT_TRUE(action(record, row.options, counter, error));
             EXPECT_EQ(record.newFilename(), q(expected));
         }
         EXPECT_EQ(counter, row.counterAfter);
-    }
-
-    void expectAlphabetic(const AlphabeticRow& row, const char* onDisk = "photo.jpg", const char* earlier = "")
-    {
-        SCOPED_TRACE(row.name);
-        QString counter = q(row.start);
-        for (const char* expected : row.expected) {
-            FileSystemItem record = item(onDisk, earlier);
-            QString error;
-            EXPECT_TRUE(renameByAlphabetic(record, row.options, counter, error));
-            EXPECT_EQ(record.newFilename(), q(expected));
-        }
-        EXPECT_EQ(counter, q(row.counterAfter));
     }
 };
 
@@ -72,7 +61,7 @@ TEST_F(AlphaNumericAction, NumbersWithMaskPlacementAndSeparator)
          {"a:05:photo.jpg"}, 6},
     };
     for (const NumericRow& row : rows)
-        expectNumeric(row);
+        expectRun(row, renameByNumeric);
 }
 
 TEST_F(AlphaNumericAction, NumericStepsNeverLeaveTheIntRangeOrDropBelowZero)
@@ -89,7 +78,7 @@ TEST_F(AlphaNumericAction, NumericStepsNeverLeaveTheIntRangeOrDropBelowZero)
          largest},
     };
     for (const NumericRow& row : rows)
-        expectNumeric(row);
+        expectRun(row, renameByNumeric);
 }
 
 TEST_F(AlphaNumericAction, LettersCarryAndBorrowAcrossPositions)
@@ -114,7 +103,7 @@ TEST_F(AlphaNumericAction, LettersCarryAndBorrowAcrossPositions)
         {"hopeless", {}, "A0000000", {"A0000000.jpg", "a.jpg"}, "b"},
     };
     for (const AlphabeticRow& row : rows)
-        expectAlphabetic(row);
+        expectRun(row, renameByAlphabetic);
 }
 
 TEST_F(AlphaNumericAction, LetterPlacementWrapsTheNameDifferently)
@@ -133,14 +122,15 @@ TEST_F(AlphaNumericAction, LetterPlacementWrapsTheNameDifferently)
          {"/c/photo.jpg"}, "d"},
     };
     for (const AlphabeticRow& row : rows)
-        expectAlphabetic(row);
+        expectRun(row, renameByAlphabetic);
 }
 
 TEST_F(AlphaNumericAction, SequencesWorkOnTheNameAnEarlierStepProposed)
 {
-    expectNumeric({"numeric", {.placement = Placement::BeforeName, .separator = "_"}, 0, {"0_new.md"}, 1}, "old.txt",
-                  "new.md");
-    expectAlphabetic({"alphabetic", {.placement = Placement::AfterName}, "a", {"newa"}, "b"}, "old.txt", "new");
+    expectRun(NumericRow{"numeric", {.placement = Placement::BeforeName, .separator = "_"}, 0, {"0_new.md"}, 1},
+              renameByNumeric, "old.txt", "new.md");
+    expectRun(AlphabeticRow{"alphabetic", {.placement = Placement::AfterName}, "a", {"newa"}, "b"},
+              renameByAlphabetic, "old.txt", "new");
 }
 
 TEST_F(AlphaNumericAction, TheCounterIsWrittenBackAlsoWhenTheCallFails)
