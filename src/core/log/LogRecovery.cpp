@@ -72,7 +72,7 @@ Recovery recoverLog(const QString& folder, const QString& interimName, QString& 
         return Recovery::Failed;
     // A batch of an earlier version killed between writing its finished log and removing its
     // "#" file left two copies of one log: the "#" one then goes.
-    finishedPath = moveToFinishedLogName(path, path, static_cast<int>(contents->entries.size()),
+    finishedPath = moveToFinishedLogName(path, folder, interimName, static_cast<int>(contents->entries.size()),
         [&contents](const QString& taken) { return sameLog(taken, *contents); });
     return finishedPath.isEmpty() ? Recovery::Failed : Recovery::Finished;
 }

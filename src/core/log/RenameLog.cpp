@@ -37,11 +37,9 @@ bool deleteLogFile(const QString& path)
     return false;
 }
 
-QString moveToFinishedLogName(const QString& sourcePath, const QString& interimPath, int count,
-    const std::function<bool(const QString&)>& isSameLog)
+QString moveToFinishedLogName(const QString& sourcePath, const QString& folder, const QString& interimName,
+    int count, const std::function<bool(const QString&)>& isSameLog)
 {
-    const QString folder = parentPath(interimPath);
-    const QString interimName = lastPathComponent(interimPath);
     for (int secondsLater = 0; secondsLater <= maxSecondsLater; ++secondsLater) {
         const QString finishedName = logfilename::finishedFileName(interimName, count, secondsLater);
         if (finishedName.isEmpty()) {
@@ -152,13 +150,22 @@ QString RenameLog::closeJournalFile()
         : m_journal.append(QByteArray("</") + logxml::Root + ">\n");
     if (!closed || !m_journal.sync())
         return failFinish(m_journal.lastError());
-    const QString path = moveToFinishedLogName(m_path, m_path, renamedCount());
+    const QString path = moveToFinishedLogName(m_path, finishedFolder(), lastPathComponent(m_path), renamedCount());
+    if (path.isEmpty() && errno == EXDEV)
+        return writeWholeDocument();
     return path.isEmpty() ? failFinish(qt_error_string(errno)) : path;
+}
+
+QString RenameLog::finishedFolder() const
+{
+    QString folder = parentPath(m_path);
+    return folder.replace(QLatin1Char('#'), QString::number(renamedCount()));
 }
 
 QString RenameLog::writeWholeDocument()
 {
-    const QString partPath = m_path + QLatin1String(partSuffix);
+    const QString interimName = lastPathComponent(m_path);
+    const QString partPath = joinPath(finishedFolder(), interimName + QLatin1String(partSuffix));
     JournalFile part;
     if (!part.createExclusive(partPath))
         return failFinish(part.lastError());
@@ -168,7 +175,7 @@ QString RenameLog::writeWholeDocument()
         QFile::remove(partPath);
         return failFinish(reason);
     }
-    const QString path = moveToFinishedLogName(partPath, m_path, renamedCount());
+    const QString path = moveToFinishedLogName(partPath, finishedFolder(), interimName, renamedCount());
     part.close();
     if (path.isEmpty()) {
         const QString reason = qt_error_string(errno);
@@ -180,11 +187,13 @@ QString RenameLog::writeWholeDocument()
     return path;
 }
 
+// Only a "#" log that could not be finished is a failure to report: when there was none, the
+// user already chose to rename without a log.
 QString RenameLog::failFinish(const QString& reason)
 {
-    m_finishError = m_createdFile ? localized("LOGFINISHFAILED").arg(m_path, reason)
-                                  : localized("LOGWRITEFAILED").arg(reason);
-    qWarning("Error in saveLog : %s", qPrintable(m_finishError));
+    if (m_createdFile)
+        m_finishError = localized("LOGFINISHFAILED").arg(m_path, reason);
+    qWarning("Error in saveLog : %s", qPrintable(reason));
     return QString();
 }
 

@@ -18,13 +18,13 @@ QString getNewLogFileName(const QDateTime& now);
 // Removes a log file; a failure is written to the diagnostic log and answers false.
 bool deleteLogFile(const QString& path);
 
-// Moves the file at `sourcePath` to the finished name of the "#" log `interimPath` for `count`
-// entries, never replacing another log: when that name is taken, the time in it moves on a
-// second at a time. `isSameLog`, asked of a taken name at the exact time, may say that the
-// file there already is this log; the source is then removed instead. Answers the new path,
-// or an empty string with errno set.
-QString moveToFinishedLogName(const QString& sourcePath, const QString& interimPath, int count,
-    const std::function<bool(const QString&)>& isSameLog = {});
+// Moves the file at `sourcePath` into `folder` under the finished name of the "#" log named
+// `interimName` for `count` entries, never replacing another log: when that name is taken,
+// the time in it moves on a second at a time. `isSameLog`, asked of a taken name at the exact
+// time, may say that the file there already is this log; the source is then removed instead.
+// Answers the new path, or an empty string with errno set.
+QString moveToFinishedLogName(const QString& sourcePath, const QString& folder, const QString& interimName,
+    int count, const std::function<bool(const QString&)>& isSameLog = {});
 
 // The log of one batch of renames. Each entry is on disk before its rename is attempted:
 //
@@ -55,9 +55,9 @@ public:
     // The rename of the last entry failed: it is taken out of the file and the count.
     void dropLastEntry();
 
-    // Closes the document, syncs it and moves it to the finished name: the "#" replaced by the
-    // count of confirmed entries, another second when that name is taken (a log never replaces
-    // another). When the "#" file stopped growing part-way, the whole document is written
+    // Closes the document, syncs it and moves it to the finished path: every "#" of the path
+    // replaced by the count of confirmed entries (a "#" of the folder too), another second in
+    // the name when that name is taken (a log never replaces another). When the "#" file stopped growing part-way, the whole document is written
     // afresh from the entries in memory, and the "#" file removed only once that one is on
     // disk. Answers the final path, or an empty string with finishError() saying why; the "#"
     // file then stays, so nothing that was renamed goes unlogged.
@@ -77,6 +77,7 @@ private:
     QString closeJournalFile();
     QString writeWholeDocument();
     QString failFinish(const QString& reason);
+    QString finishedFolder() const;
     void abandonFile(const char* operation);
 
     QString m_path;
