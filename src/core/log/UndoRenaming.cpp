@@ -57,6 +57,10 @@ std::optional<UndoProblem> undoEntry(const RenameLogEntry& entry)
     const QString oldPath = entry.sourcePath();
     const QString newPath = entry.targetPath();
     const ItemIdentity item = itemIdentity(newPath);
+    // An item known by its identity to be under its old name is restored already: the rename
+    // of an entry written just before a batch was killed, for one, never happened.
+    if (!item.exists && entry.hasIdentity() && isRenamedItem(entry, itemIdentity(oldPath)))
+        return std::nullopt;
     if (!item.exists)
         return UndoProblem {entry, UndoProblemKind::ItemGone, {}};
     if (!isRenamedItem(entry, item))

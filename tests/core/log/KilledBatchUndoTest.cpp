@@ -89,13 +89,13 @@ TEST_P(KilledBatchTest, IsFinishedAtTheNextStartAndUndoneCompletely)
     ASSERT_EQ(recovery.finished.size(), 1);
     const QList<LogFileRecord> listed = loadUserLogFiles(logs);
     ASSERT_EQ(listed.size(), 1);
-    // The entry of the rename the kill prevented stays: it is harmless to undo.
+    // The entry of the rename the kill prevented stays; undo finds that item under its old name.
     EXPECT_EQ(listed.first().filesCount, renamedBeforeKill + 1);
 
     const std::atomic_bool noCancel { false };
     const UndoSummary summary = undoRenaming(listed.first().path, noCancel, nullptr);
     EXPECT_EQ(summary.entries, renamedBeforeKill + 1);
-    EXPECT_EQ(summary.restored, renamedBeforeKill);
+    EXPECT_EQ(summary.restored, renamedBeforeKill + 1);
     EXPECT_TRUE(summary.logDeleted);
     ASSERT_EQ(QDir(folder).entryList(QDir::Files).size(), fileCount);
     for (int i = 0; i < fileCount; ++i)
