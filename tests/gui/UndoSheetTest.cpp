@@ -295,7 +295,7 @@ TEST_F(UndoSheetTest, ALogFromDiskIsCheckedThenUndone)
     EXPECT_EQ(selectedRow(), -1);
     EXPECT_EQ(sheet->currLogFilePath(), aside);
     EXPECT_EQ(sheet->totalFilesCanBeUndoFromLog(), 1);
-    EXPECT_EQ(text("logStatusLabel"), QStringLiteral("Items restored: 2"));
+    EXPECT_EQ(text("logStatusLabel"), QStringLiteral("Renamed items in the log: 1"));
 
     ASSERT_TRUE(undoAndWait());
     EXPECT_EQ(tree.read(QStringLiteral("d/original")), QByteArray("kept aside"));
