@@ -94,8 +94,7 @@ TEST(FallbackMove, NeverReplacesAndRefusesWhereNoSafeMoveIsLeft)
         }
         // Nothing moved, nothing replaced, no second name left behind.
         EXPECT_EQ(isSameItem(itemIdentity(source), before), before.exists) << row.name;
-        if (targetBefore.exists)
-            EXPECT_TRUE(isSameItem(itemIdentity(target), targetBefore)) << row.name;
+        EXPECT_EQ(isSameItem(itemIdentity(target), targetBefore), targetBefore.exists) << row.name;
         EXPECT_FALSE(before.exists && isSameItem(itemIdentity(target), before)) << row.name;
     }
 }

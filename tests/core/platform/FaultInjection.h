@@ -5,6 +5,7 @@
 #include <array>
 #include <cerrno>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace tavrin::test {
@@ -13,10 +14,20 @@ namespace tavrin::test {
 enum class Call { RenameNoReplace, Rename, Link, Unlink, Open, Write, Sync, Count };
 
 struct Fault {
-    Call call = Call::RenameNoReplace;
-    int nth = 1; // the first call is 1; 0 means every call
-    int error = EIO; // 0: the call is made as usual (after `before`, when there is one)
-    bool afterDoing = false; // the call does its work and reports the error all the same
+    Fault(Call faulty, int which, int errorNumber, bool afterTheWork = false,
+        std::function<void(const char*)> beforeTheCall = {})
+        : call(faulty)
+        , nth(which)
+        , error(errorNumber)
+        , afterDoing(afterTheWork)
+        , before(std::move(beforeTheCall))
+    {
+    }
+
+    Call call;
+    int nth; // the first call is 1; 0 means every call
+    int error; // 0: the call is made as usual (after `before`, when there is one)
+    bool afterDoing; // the call does its work and reports the error all the same
     // Runs just before the call, with its target (or path): a racing process, for instance.
     std::function<void(const char* path)> before;
 };
