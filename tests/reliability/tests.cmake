@@ -2,4 +2,5 @@
 # suite takes a few seconds; TAVRIN_STRESS_ITERATIONS asks for longer runs.
 tavrin_add_test(test_reliability SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/RandomBatchTest.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/FaultInjectionTest.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/FaultInjectionTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/KillTest.cpp)
