@@ -3,4 +3,5 @@
 tavrin_add_test(test_reliability SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/RandomBatchTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FaultInjectionTest.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/KillTest.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/KillTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/HostileInputTest.cpp)
