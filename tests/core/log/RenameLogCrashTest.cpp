@@ -2,13 +2,11 @@
 #include "core/log/RenameLog.h"
 #include "core/log/RenameLogReader.h"
 #include "core/platform/FaultInjection.h"
-#include "core/platform/FileOperations.h"
 #include "core/text/NameParts.h"
 #include "support/TempTree.h"
 
 #include <QDir>
 #include <QFile>
-#include <csignal>
 #include <gtest/gtest.h>
 
 using namespace tavrin;
@@ -168,44 +166,6 @@ TEST(RenameLogInterimFile, StaysWhenTheFinishedLogCannotBeMade)
         ASSERT_EQ(report.finished.size(), 1) << int(fault.call);
         EXPECT_EQ(readLogEntries(report.finished[0])->entries, log.entries()) << int(fault.call);
     }
-}
-
-// A real kill: the child renames files and dies by SIGKILL before finishing; the parent finds
-// every rename the child made named in the log it left.
-TEST(RenameLogInterimFileDeathTest, NamesEveryRenameOfAKilledBatch)
-{
-    test::TempTree tree;
-    for (int i = 0; i < 5; ++i)
-        tree.file(QStringLiteral("files/f%1").arg(i), QByteArray::number(i));
-    const QString logs = tree.folder(QStringLiteral("logs"));
-    const QString files = tree.path(QStringLiteral("files"));
-
-    const auto renameThreeThenDie = [&] {
-        RenameLog log;
-        if (!log.create(logs, QStringLiteral("FILES"), batchStart))
-            std::_Exit(2);
-        for (int i = 0; i < 3; ++i) {
-            const QString source = files + QStringLiteral("/f%1").arg(i);
-            const QString target = files + QStringLiteral("/renamed %1").arg(i);
-            log.addLogEntry(source, target);
-            if (moveItemNoReplace(source, target).ok())
-                log.confirmEntry();
-            else
-                log.dropLastEntry();
-        }
-        std::raise(SIGKILL);
-    };
-    EXPECT_EXIT(renameThreeThenDie(), ::testing::KilledBySignal(SIGKILL), "");
-
-    const QList<RenameLogEntry> entries
-        = entriesOnDisk(logs + QStringLiteral("/Log 15-11-2026 09-05-07-#.xml"));
-    ASSERT_EQ(entries.size(), 3);
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(entries[i].sourcePath(), files + QStringLiteral("/f%1").arg(i));
-        EXPECT_EQ(entries[i].targetPath(), files + QStringLiteral("/renamed %1").arg(i));
-        EXPECT_EQ(tree.read(QStringLiteral("files/renamed %1").arg(i)), QByteArray::number(i));
-    }
-    EXPECT_TRUE(tree.exists(QStringLiteral("files/f3")));
 }
 
 }  // namespace
