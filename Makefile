@@ -48,7 +48,7 @@ fuzz:
 		echo "fuzzing $$target for $(FUZZ_SECONDS) s"; \
 		TMPDIR=$$(mktemp -d) XDG_DATA_HOME=$$(mktemp -d) XDG_CONFIG_HOME=$$(mktemp -d) \
 		build-fuzz/tests/fuzz_$$target -max_total_time=$(FUZZ_SECONDS) -rss_limit_mb=2048 \
-			-artifact_prefix=tests/fuzz/corpus/$$target/crash- build-fuzz/corpus/$$target tests/fuzz/corpus/$$target \
+			-artifact_prefix=tests/fuzz/corpus/$$target/ build-fuzz/corpus/$$target tests/fuzz/corpus/$$target \
 			|| exit 1; \
 	done
 
