@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     // The XML form is read again, but may be refused: libplist copies the bytes of a binary
     // string as they are, which need not be UTF-8.
     if (const Plist plist = parsePlist(bytes)) {
-        fuzz::require(isNestingWithin(bytes));
+        fuzz::require(isSafeToParse(bytes));
         parsePlist(plistToXml(plist.get()));
     }
 

@@ -50,38 +50,66 @@ struct BinaryLayout {
         return offset < quint64(offsetTable) ? qsizetype(offset) : -1;
     }
 
-    // The objects a container refers to (keys and values of a dictionary alike); false for an
-    // object that is not a container or does not fit in the file.
+    // The objects a container refers to (keys and values of a dictionary alike); false for a
+    // container that does not fit in the file or a dictionary with a key that is not a string.
     bool children(quint64 object, std::vector<quint64>& out) const
     {
         out.clear();
         qsizetype at = offsetOf(object);
         if (at < 0)
             return false;
-        const uchar marker = uchar(bytes[at]);
-        const int type = marker >> 4;
+        const int type = uchar(bytes[at]) >> 4;
         if (type != 0xA && type != 0xC && type != 0xD)
             return true;
-        quint64 count = marker & 0xF;
-        ++at;
-        if (count == 0xF) {
-            if (at >= offsetTable || (uchar(bytes[at]) >> 4) != 0x1)
-                return false;
-            const int size = 1 << (uchar(bytes[at]) & 0xF);
-            if (size > 8 || at + 1 + size > offsetTable)
-                return false;
-            count = bigEndian(bytes, at + 1, size);
-            at += 1 + size;
-        }
+        const qsizetype length = lengthAt(at);
+        if (length < 0)
+            return false;
+        auto count = quint64(length);
         if (type == 0xD)
             count *= 2;
         if (count > quint64(offsetTable - at) / quint64(refSize))
             return false;
         for (quint64 i = 0; i < count; ++i) {
             const quint64 child = bigEndian(bytes, at + qsizetype(i) * refSize, refSize);
-            if (child >= objectCount)
+            if (child >= objectCount || (type == 0xD && i < count / 2 && !isKeyString(child)))
                 return false;
             out.push_back(child);
+        }
+        return true;
+    }
+
+    // The length in the marker, or in the integer object after it; -1 past the end.
+    qsizetype lengthAt(qsizetype& at) const
+    {
+        const quint64 length = uchar(bytes[at]) & 0xF;
+        ++at;
+        if (length != 0xF)
+            return qsizetype(length);
+        if (at >= offsetTable || (uchar(bytes[at]) >> 4) != 0x1)
+            return -1;
+        const int size = 1 << (uchar(bytes[at]) & 0xF);
+        if (size > 8 || at + 1 + size > offsetTable)
+            return -1;
+        const quint64 value = bigEndian(bytes, at + 1, size);
+        at += 1 + size;
+        return value > quint64(offsetTable) ? -1 : qsizetype(value);
+    }
+
+    // An ASCII or UTF-16 string without a NUL: what a dictionary key must be, or the parser
+    // trips over it.
+    bool isKeyString(quint64 object) const
+    {
+        qsizetype at = offsetOf(object);
+        if (at < 0)
+            return false;
+        const int type = uchar(bytes[at]) >> 4;
+        const int unit = type == 0x5 ? 1 : (type == 0x6 ? 2 : 0);
+        const qsizetype length = unit ? lengthAt(at) : -1;
+        if (length < 0 || at + length * unit > offsetTable)
+            return false;
+        for (qsizetype i = 0; i < length; ++i) {
+            if (bigEndian(bytes, at + i * unit, unit) == 0)
+                return false;
         }
         return true;
     }
@@ -168,7 +196,7 @@ bool xmlNestingWithin(const QByteArray& bytes, int deepest)
 
 }  // namespace
 
-bool isNestingWithin(const QByteArray& bytes, int deepest)
+bool isSafeToParse(const QByteArray& bytes, int deepest)
 {
     if (bytes.startsWith(binaryMagic))
         return binaryNestingWithin(bytes, deepest);

@@ -10,7 +10,7 @@ namespace tavrin {
 Plist parsePlist(const QByteArray& bytes)
 {
     if (bytes.isEmpty() || quint64(bytes.size()) > std::numeric_limits<uint32_t>::max()
-        || !isNestingWithin(bytes))
+        || !isSafeToParse(bytes))
         return nullptr;
     plist_t root = nullptr;
     plist_from_memory(bytes.constData(), uint32_t(bytes.size()), &root);

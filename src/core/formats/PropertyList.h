@@ -14,7 +14,7 @@ struct PlistFree {
 using Plist = std::unique_ptr<void, PlistFree>;
 
 // Parses an XML or binary property list; null when the bytes are not one, or nest deeper
-// than isNestingWithin() allows.
+// than isSafeToParse() allows.
 Plist parsePlist(const QByteArray& bytes);
 
 // Reads and parses a property-list file of at most `largestSize` bytes (preferences,
