@@ -172,11 +172,14 @@ void printResult(const LoadedList& loaded, const QStringList& namesBefore, const
     }
     if (!result.preview.actionSucceeded && !result.preview.lastError.isEmpty())
         err << result.preview.lastError << '\n';
+    if (result.apply && !result.apply->logError.isEmpty())
+        err << result.apply->logError << '\n';
 }
 
 int exitStatus(const LoadedList& loaded, const RunResult& result)
 {
-    const bool applyFailed = result.apply && (result.apply->failed > 0 || result.apply->aborted);
+    const bool applyFailed = result.apply
+        && (result.apply->failed > 0 || result.apply->aborted || !result.apply->logError.isEmpty());
     if (!loaded.missing.isEmpty() || !result.preview.actionSucceeded || applyFailed)
         return kExitFailed;
     return kExitDone;

@@ -176,17 +176,20 @@ TEST_F(UndoSheetTest, UndoGivesTheNamesBackReportsAndMovesToTheNextLog)
     EXPECT_EQ(summary.severity, Severity::Information);
     EXPECT_EQ(summary.title, localized("UNDOFILESFOLDERSTITLE"));
     EXPECT_EQ(summary.message,
-        QStringLiteral("Items in the log: 3\nItems given back their old names: 2\n"
-                       "Items not restored (gone, or their old name is taken): 1"));
+        QStringLiteral("Items in the log: 3\nItems given back their old names: 2\nItems not restored: 1\n"
+                       "“%1” keeps its name: another item already has its old name “c.txt”.\n"
+                       "The log keeps the items not restored, so the undo can be tried again.")
+            .arg(tree.path(QStringLiteral("d/C.txt"))));
     EXPECT_EQ(statusDuringSummary, QStringLiteral("Items restored: 2"));
     EXPECT_EQ(rowsDuringSummary, 3) << "the row goes once the summary was read";
 
-    EXPECT_FALSE(QFileInfo::exists(newest));
-    ASSERT_EQ(sheet->model()->rowCount(), 2);
-    EXPECT_EQ(text("logCountLabel"), QStringLiteral("Logs: 2"));
-    EXPECT_EQ(selectedRow(), 0) << "the next log takes the place of the undone one";
-    EXPECT_EQ(sheet->currLogFilePath(), middle);
-    EXPECT_EQ(text("logStatusLabel"), QStringLiteral("Renamed items in the log: 2"));
+    // The log keeps the entry not restored, so it is listed again for another try.
+    EXPECT_TRUE(QFileInfo::exists(newest));
+    ASSERT_EQ(sheet->model()->rowCount(), 3);
+    EXPECT_EQ(text("logCountLabel"), QStringLiteral("Logs: 3"));
+    EXPECT_EQ(selectedRow(), 0);
+    EXPECT_EQ(sheet->currLogFilePath(), newest);
+    EXPECT_EQ(text("logStatusLabel"), QStringLiteral("Items restored: 2"));
     EXPECT_FALSE(sheet->isUndoing());
     EXPECT_TRUE(controller.lastActionTimeTaken().startsWith(QStringLiteral("Undo time: ")));
     EXPECT_EQ(

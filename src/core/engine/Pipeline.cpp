@@ -190,7 +190,11 @@ public:
     }
 
     void renameRecord(int row, ApplyOutcome& outcome);
-    QString finishLog() { return m_log.finish(); }
+    void finishLog(ApplyOutcome& outcome)
+    {
+        outcome.logPath = m_log.finish();
+        outcome.logError = m_log.finishError();
+    }
 
 private:
     // Case conversions of the general tab may name the same object in another case, so
@@ -211,6 +215,10 @@ private:
         return item.itemType() == ItemType::File ? pathExists(target) : isDirectory(target);
     }
     FileResult move(const QString& source, const QString& target) const;
+    static bool movedAnyway(const ItemIdentity& before, const QString& source, const QString& target)
+    {
+        return isSameItem(itemIdentity(target), before) && !isSameItem(itemIdentity(source), before);
+    }
 
     FileList& m_list;
     RenameLog m_log;
@@ -249,10 +257,12 @@ void ApplyRun::renameRecord(int row, ApplyOutcome& outcome)
         return;
     }
     // The entry reaches the log file before the move, so a batch cut short by a crash can
-    // still be undone; a move that fails takes its entry back out.
-    m_log.addLogEntry(source, target);
+    // still be undone; a move that fails takes its entry back out, unless the disk shows that
+    // it happened all the same (a network file system can report an error after the fact).
+    const ItemIdentity before = itemIdentity(source);
+    m_log.addLogEntry(source, target, before.device, before.inode);
     const FileResult moved = move(source, target);
-    if (!moved.ok()) {
+    if (!moved.ok() && !movedAnyway(before, source, target)) {
         m_log.dropLastEntry();
         if (moved.outcome == FileOutcome::TargetExists)
             setNewFilename(item, alreadyExistsStatus(item));
@@ -281,7 +291,7 @@ ApplyOutcome Pipeline::applyRenames(const QString& logFolder, const ContinueWith
     ApplyRun run(m_list, m_options, rewritePaths);
     if (!run.openLog(logFolder, continueWithoutLog)) {
         outcome.aborted = true;
-        outcome.logPath = run.finishLog();
+        run.finishLog(outcome);
         m_list.resetFilesDic();
         return outcome;
     }
@@ -302,7 +312,7 @@ ApplyOutcome Pipeline::applyRenames(const QString& logFolder, const ContinueWith
         qWarning("Error %s", exception.what());
     }
     progress.finish(QString(), row, total);
-    outcome.logPath = run.finishLog();
+    run.finishLog(outcome);
     m_list.resetFilesDic();
     return outcome;
 }

@@ -23,6 +23,7 @@ struct ApplyOutcome {
     int renamed = 0;
     int failed = 0;         // proposals that could not be applied
     QString logPath;        // the saved log, empty when none could be written
+    QString logError;       // why the log could not be finished, empty when it was (or none was wanted)
     bool aborted = false;   // the log could not be made and the user chose not to go on
     bool cancelled = false;
 };

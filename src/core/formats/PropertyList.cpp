@@ -1,13 +1,16 @@
 #include "core/formats/PropertyList.h"
 
-#include <QFile>
+#include "core/formats/PlistNesting.h"
+#include "core/platform/InputFile.h"
+
 #include <limits>
 
 namespace tavrin {
 
 Plist parsePlist(const QByteArray& bytes)
 {
-    if (bytes.isEmpty() || quint64(bytes.size()) > std::numeric_limits<uint32_t>::max())
+    if (bytes.isEmpty() || quint64(bytes.size()) > std::numeric_limits<uint32_t>::max()
+        || !isSafeToParse(bytes))
         return nullptr;
     plist_t root = nullptr;
     plist_from_memory(bytes.constData(), uint32_t(bytes.size()), &root);
@@ -16,10 +19,8 @@ Plist parsePlist(const QByteArray& bytes)
 
 Plist readPlistFile(const QString& path, qint64 largestSize)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > largestSize)
-        return nullptr;
-    return parsePlist(file.readAll());
+    const std::optional<QByteArray> bytes = readInputFile(path, largestSize);
+    return bytes ? parsePlist(*bytes) : nullptr;
 }
 
 QByteArray plistToXml(plist_t node)

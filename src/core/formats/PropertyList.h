@@ -13,12 +13,14 @@ struct PlistFree {
 };
 using Plist = std::unique_ptr<void, PlistFree>;
 
-// Parses an XML or binary property list; null when the bytes are not one.
+// Parses an XML or binary property list; null when the bytes are not one, or nest deeper
+// than isSafeToParse() allows.
 Plist parsePlist(const QByteArray& bytes);
 
 // Reads and parses a property-list file of at most `largestSize` bytes (preferences,
 // profiles and rules are small; anything larger is not one of them). Null when the file
-// cannot be read, is empty or too large, or is not a property list.
+// cannot be read, is not a regular file (see readInputFile()), is empty or too large, or is
+// not a property list.
 Plist readPlistFile(const QString& path, qint64 largestSize);
 
 // The XML form of a property list, with the standard DOCTYPE.

@@ -1,13 +1,17 @@
 #include "core/formats/VersionStamp.h"
 
+#include "core/platform/InputFile.h"
+
 #include <QFile>
 #include <QXmlStreamReader>
+#include <unistd.h>
 
 namespace tavrin {
 
 namespace {
 
 constexpr char versionAttribute[] = "appversion";
+constexpr qint64 kLargestStampedFile = qint64(1) << 30;
 
 QString majorComponent(const QString& version)
 {
@@ -23,9 +27,13 @@ QString appVersion()
 
 std::optional<QString> appVersionInPlist(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        qWarning("Error in appVersionInPlist : %s", qPrintable(file.errorString()));
+    // Only the root element is read: the cap is a log's, the largest of the stamped files.
+    QFile file;
+    const int fd = openInputFile(path, kLargestStampedFile);
+    if (fd < 0 || !file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        if (fd >= 0)
+            ::close(fd);
+        qWarning("Error in appVersionInPlist : cannot read %s", qPrintable(path));
         return std::nullopt;
     }
     QXmlStreamReader reader(&file);

@@ -1,5 +1,7 @@
 #include "core/log/JournalFile.h"
 
+#include "core/platform/SystemCalls.h"
+
 #include <QFile>
 #include <cerrno>
 #include <fcntl.h>
@@ -16,7 +18,7 @@ JournalFile::~JournalFile()
 bool JournalFile::createExclusive(const QString& path)
 {
     close();
-    m_fd = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+    m_fd = systemCalls().open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
     m_size = 0;
     if (m_fd < 0)
         return fail();
@@ -41,7 +43,7 @@ bool JournalFile::append(const QByteArray& bytes)
     while (written < bytes.size()) {
         const auto remaining = static_cast<size_t>(bytes.size() - written);
         const ssize_t count
-            = ::pwrite(m_fd, bytes.constData() + written, remaining, static_cast<off_t>(m_size + written));
+            = systemCalls().pwrite(m_fd, bytes.constData() + written, remaining, static_cast<off_t>(m_size + written));
         if (count < 0 && errno == EINTR)
             continue;
         if (count <= 0) {
@@ -67,6 +69,13 @@ bool JournalFile::truncateTo(qint64 size)
         return fail();
     m_size = size;
     return true;
+}
+
+bool JournalFile::sync()
+{
+    if (m_fd < 0)
+        return false;
+    return systemCalls().fsync(m_fd) == 0 || fail();
 }
 
 void JournalFile::close()

@@ -21,6 +21,8 @@ public:
     // Writes the bytes at the end. On failure the file is cut back to its size before.
     bool append(const QByteArray& bytes);
     bool truncateTo(qint64 size);
+    // Waits until what was written is on the disk itself.
+    bool sync();
     void close();
 
     bool isOpen() const { return m_fd >= 0; }

@@ -16,7 +16,7 @@ LogFileLock::~LogFileLock()
 LogFileLock::Result LogFileLock::tryLock(const QString& path, bool writable)
 {
     release();
-    m_fd = ::open(QFile::encodeName(path).constData(), (writable ? O_RDWR : O_RDONLY) | O_CLOEXEC);
+    m_fd = ::open(QFile::encodeName(path).constData(), (writable ? O_RDWR : O_RDONLY) | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (m_fd < 0)
         return Result::Failed;
     int answer = 0;

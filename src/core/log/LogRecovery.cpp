@@ -2,6 +2,7 @@
 
 #include "core/log/LogFileLock.h"
 #include "core/log/LogFileName.h"
+#include "core/log/RenameLog.h"
 #include "core/log/RenameLogFormat.h"
 #include "core/log/RenameLogReader.h"
 #include "core/platform/FileOperations.h"
@@ -16,9 +17,6 @@
 namespace tavrin {
 
 namespace {
-
-// More logs than this within seconds of each other means something else is wrong.
-constexpr int maxSecondsLater = 120;
 
 bool writeAllAt(int fd, const QByteArray& bytes)
 {
@@ -51,29 +49,6 @@ bool sameLog(const QString& path, const RenameLogContents& contents)
     return other && other->type == contents.type && other->entries == contents.entries;
 }
 
-// Moves the closed "#" log to its finished name. A batch killed between writing its finished
-// log and removing its "#" file leaves two copies of one log: the "#" one then goes.
-QString moveToFinishedName(
-    const QString& folder, const QString& interimName, const RenameLogContents& contents)
-{
-    const QString interimPath = joinPath(folder, interimName);
-    const auto count = static_cast<int>(contents.entries.size());
-    for (int secondsLater = 0; secondsLater <= maxSecondsLater; ++secondsLater) {
-        const QString finishedName = logfilename::finishedFileName(interimName, count, secondsLater);
-        if (finishedName.isEmpty())
-            return QString();
-        QString finishedPath = joinPath(folder, finishedName);
-        const FileResult moved = moveItemNoReplace(interimPath, finishedPath);
-        if (moved.ok())
-            return finishedPath;
-        if (moved.outcome != FileOutcome::TargetExists)
-            return QString();
-        if (secondsLater == 0 && sameLog(finishedPath, contents))
-            return QFile::remove(interimPath) ? finishedPath : QString();
-    }
-    return QString();
-}
-
 enum class Recovery { Finished, NothingToDo, Failed };
 
 Recovery recoverLog(const QString& folder, const QString& interimName, QString& finishedPath)
@@ -95,7 +70,10 @@ Recovery recoverLog(const QString& folder, const QString& interimName, QString& 
         return QFileInfo(path).size() == 0 ? Recovery::NothingToDo : Recovery::Failed;
     if (!contents->rootClosed && !closeDocument(lock.fd(), *contents))
         return Recovery::Failed;
-    finishedPath = moveToFinishedName(folder, interimName, *contents);
+    // A batch of an earlier version killed between writing its finished log and removing its
+    // "#" file left two copies of one log: the "#" one then goes.
+    finishedPath = moveToFinishedLogName(path, folder, interimName, static_cast<int>(contents->entries.size()),
+        [&contents](const QString& taken) { return sameLog(taken, *contents); });
     return finishedPath.isEmpty() ? Recovery::Failed : Recovery::Finished;
 }
 

@@ -4,10 +4,11 @@
 
 namespace tavrin {
 
-RenameLogEntry RenameLogEntry::fromPaths(const QString& sourcePath, const QString& targetPath)
+RenameLogEntry RenameLogEntry::fromPaths(
+    const QString& sourcePath, const QString& targetPath, quint64 device, quint64 inode)
 {
     return {parentPath(sourcePath), parentPath(targetPath), displayName(lastPathComponent(sourcePath)),
-        displayName(lastPathComponent(targetPath))};
+        displayName(lastPathComponent(targetPath)), true, device, inode};
 }
 
 QString RenameLogEntry::sourcePath() const

@@ -13,8 +13,15 @@ struct RenameLogEntry {
     QString targetName;  // "tarfilename"
     // False for an entry read from a log that lacks one of the four attributes; undo skips it.
     bool hasAllAttributes = true;
+    // The device and inode of the item renamed, so undo moves back only that item; 0 where the
+    // log does not say (logs of earlier versions, or an item gone before its entry was written).
+    quint64 device = 0;
+    quint64 inode = 0;
 
-    static RenameLogEntry fromPaths(const QString& sourcePath, const QString& targetPath);
+    static RenameLogEntry fromPaths(const QString& sourcePath, const QString& targetPath,
+        quint64 device = 0, quint64 inode = 0);
+
+    bool hasIdentity() const { return inode != 0; }
 
     // The paths again, names turned back into their stored form.
     QString sourcePath() const;

@@ -101,7 +101,25 @@ QByteArray entryLine(const RenameLogEntry& entry)
         appendEscapedAttribute(line, *value);
         line.append('"');
     }
+    for (const auto& [name, value] : attributes) {
+        if (!isXmlText(*value))
+            line.append(' ').append(name).append(ExactSuffix).append("=\"").append(value->toUtf8().toBase64()).append('"');
+    }
+    if (entry.hasIdentity()) {
+        line.append(' ').append(Device).append("=\"").append(QByteArray::number(entry.device)).append('"');
+        line.append(' ').append(Inode).append("=\"").append(QByteArray::number(entry.inode)).append('"');
+    }
     return line.append("/>\n");
+}
+
+bool isXmlText(const QString& text)
+{
+    for (const QChar c : text) {
+        const char16_t code = c.unicode();
+        if ((code < 0x20 && code != '\t' && code != '\n' && code != '\r') || code == 0xFFFE || code == 0xFFFF)
+            return false;
+    }
+    return true;
 }
 
 QByteArray document(const QString& type, const QList<RenameLogEntry>& entries, const QString& appVersion)

@@ -1,5 +1,6 @@
 #include "core/platform/FileOperations.h"
 
+#include "core/platform/SystemCalls.h"
 #include "core/text/LocalizedStrings.h"
 
 #include <QByteArray>
@@ -9,7 +10,6 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace tavrin {
@@ -21,17 +21,6 @@ constexpr qsizetype maxNameBytes = 255;
 QByteArray encoded(const QString& path)
 {
     return QFile::encodeName(path);
-}
-
-int renameNoReplace(const QByteArray& source, const QByteArray& target)
-{
-#ifdef RENAME_NOREPLACE
-    return ::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE);
-#else
-    // A C library older than the wrapper: the kernel call itself, whose flag 1 is "no replace".
-    return static_cast<int>(
-        ::syscall(SYS_renameat2, AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), 1U));
-#endif
 }
 
 FileResult okResult()
@@ -99,19 +88,19 @@ NoReplaceFallback chooseNoReplaceFallback(int renameError, bool sourceIsDirector
 {
     if (renameError != EINVAL && renameError != ENOSYS)
         return NoReplaceFallback::None;
-    return sourceIsDirectory ? NoReplaceFallback::CheckedRename : NoReplaceFallback::LinkAndUnlink;
+    return sourceIsDirectory ? NoReplaceFallback::Refuse : NoReplaceFallback::LinkAndUnlink;
 }
 
 FileResult moveItemNoReplace(const QString& source, const QString& target)
 {
-    if (renameNoReplace(encoded(source), encoded(target)) == 0)
+    if (systemCalls().renameNoReplace(encoded(source).constData(), encoded(target).constData()) == 0)
         return okResult();
     const int error = errno;
     switch (chooseNoReplaceFallback(error, isDirectory(source))) {
     case NoReplaceFallback::LinkAndUnlink:
         return moveFileByLink(source, target);
-    case NoReplaceFallback::CheckedRename:
-        return moveAfterExistenceCheck(source, target);
+    case NoReplaceFallback::Refuse:
+        return {FileOutcome::Failed, error, localized("FILEOPNOREPLACEUNSUPPORTED")};
     case NoReplaceFallback::None:
         break;
     }
@@ -122,29 +111,19 @@ FileResult moveFileByLink(const QString& source, const QString& target)
 {
     const QByteArray from = encoded(source);
     const QByteArray to = encoded(target);
-    if (::link(from.constData(), to.constData()) != 0) {
+    const SystemCalls& calls = systemCalls();
+    if (calls.link(from.constData(), to.constData()) != 0) {
         const int error = errno;
         if (hasNoHardLinks(error))
-            return moveAfterExistenceCheck(source, target);
+            return {FileOutcome::Failed, error, localized("FILEOPNOREPLACEUNSUPPORTED")};
         return moveFailure(error, source);
     }
-    if (::unlink(from.constData()) != 0) {
+    if (calls.unlink(from.constData()) != 0) {
         const int error = errno;
         // The item must not end up under two names: the link just made is taken back.
-        ::unlink(to.constData());
+        calls.unlink(to.constData());
         return errnoResult(FileOutcome::Failed, error);
     }
-    return okResult();
-}
-
-FileResult moveAfterExistenceCheck(const QString& source, const QString& target)
-{
-    if (!pathExists(source))
-        return errnoResult(FileOutcome::SourceMissing, ENOENT);
-    if (pathExists(target))
-        return errnoResult(FileOutcome::TargetExists, EEXIST);
-    if (::rename(encoded(source).constData(), encoded(target).constData()) != 0)
-        return moveFailure(errno, source);
     return okResult();
 }
 
@@ -157,12 +136,17 @@ ItemIdentity itemIdentity(const QString& path)
         static_cast<unsigned long long>(info.st_ino), static_cast<unsigned long long>(info.st_nlink)};
 }
 
+bool isSameItem(const ItemIdentity& left, const ItemIdentity& right)
+{
+    return left.exists && right.exists && left.device == right.device && left.inode == right.inode;
+}
+
 CaseRenameDecision decideCaseOnlyRename(
     const ItemIdentity& source, const ItemIdentity& target, bool samePath, bool targetNameListed)
 {
     if (!source.exists)
         return CaseRenameDecision::SourceMissing;
-    if (!target.exists || source.device != target.device || source.inode != target.inode)
+    if (!isSameItem(source, target))
         return CaseRenameDecision::NotSameItem;
     if (samePath || source.isDirectory || source.linkCount <= 1)
         return CaseRenameDecision::Rename;
@@ -187,7 +171,7 @@ FileResult renameCaseOnly(const QString& source, const QString& target)
     case CaseRenameDecision::Rename:
         break;
     }
-    if (::rename(encoded(source).constData(), encoded(target).constData()) != 0)
+    if (systemCalls().rename(encoded(source).constData(), encoded(target).constData()) != 0)
         return moveFailure(errno, source);
     return okResult();
 }

@@ -31,24 +31,25 @@ bool isDirectory(const QString& path);
 
 // Moves an item to a new path without ever replacing what is there. Uses renameat2() with
 // RENAME_NOREPLACE; where the file system cannot honour that flag it falls back to the
-// moves of chooseNoReplaceFallback().
+// moves of chooseNoReplaceFallback(), and refuses where there is none.
 FileResult moveItemNoReplace(const QString& source, const QString& target);
 
-// How a move is made when renameat2() cannot promise not to replace the target.
+// How a move is made when renameat2() cannot promise not to replace the target. Only calls
+// that fail on an existing target are used: a check followed by rename() would replace
+// whatever another process put there in between (an empty folder, or any file).
 enum class NoReplaceFallback {
     None,  // the answer was a real refusal: report it
     LinkAndUnlink,  // a file: link() refuses an existing target by itself
-    CheckedRename,  // a folder (folders cannot be hard-linked): rename() after lstat() finds no target
+    Refuse,  // a folder (folders cannot be hard-linked): nothing safe is left, the move is refused
 };
 
 // The fallback for the errno that renameat2(RENAME_NOREPLACE) answered: EINVAL from a file
 // system without the flag, ENOSYS from a kernel without the call.
 NoReplaceFallback chooseNoReplaceFallback(int renameError, bool sourceIsDirectory);
 
-// The two fallback moves, for file systems that refuse RENAME_NOREPLACE. A file system
-// without hard links (link() answers EPERM or EOPNOTSUPP) gets the checked rename instead.
+// The file fallback. A file system without hard links (link() answers EPERM or EOPNOTSUPP)
+// leaves no safe move: the file stays where it is, with a message saying why.
 FileResult moveFileByLink(const QString& source, const QString& target);
-FileResult moveAfterExistenceCheck(const QString& source, const QString& target);
 
 // rename(2) for a change that the file system sees as no change at all: on a case-insensitive
 // file system "photo.JPG" and "photo.jpg" name the same item, so a no-replace move refuses
@@ -75,6 +76,9 @@ CaseRenameDecision decideCaseOnlyRename(
     const ItemIdentity& source, const ItemIdentity& target, bool samePath, bool targetNameListed);
 
 ItemIdentity itemIdentity(const QString& path);
+
+// Both identities name one existing item (device and inode).
+bool isSameItem(const ItemIdentity& left, const ItemIdentity& right);
 
 // A name that can be given to an item: one path component, not empty, not "." or "..",
 // without "/" or NUL, representable in UTF-8 and at most 255 bytes long in it.

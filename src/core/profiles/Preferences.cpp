@@ -1,6 +1,7 @@
 #include "core/profiles/Preferences.h"
 
 #include "core/formats/PropertyList.h"
+#include "core/platform/FileOperations.h"
 #include "core/text/LocalizedStrings.h"
 #include "core/text/NameParts.h"
 #include "core/text/StringUtilities.h"
@@ -9,6 +10,7 @@
 #include <QFile>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <QStringList>
 #include <filesystem>
 #include <system_error>
 
@@ -87,6 +89,28 @@ void readFlag(plist_t dictionary, const char* key, bool& value)
     }
 }
 
+// A folder path that cannot serve: empty (a log would land in whatever folder the program
+// was started from, where undo from elsewhere never finds it), relative for the same reason,
+// or the path of something that is not a folder.
+bool isUsableFolderPath(const QString& path)
+{
+    if (path.isEmpty() || !QDir::isAbsolutePath(path))
+        return false;
+    std::error_code code;
+    const std::filesystem::file_status status = std::filesystem::status(fileSystemPath(path), code);
+    return !std::filesystem::exists(status) || std::filesystem::is_directory(status);
+}
+
+void readFolder(plist_t dictionary, const char* key, QString& value, QStringList& problems)
+{
+    QString path = value;
+    readString(dictionary, key, path);
+    if (isUsableFolderPath(path))
+        value = path;
+    else
+        problems.append(localized("PREFERENCESFOLDERFALLBACK").arg(path, value));
+}
+
 void setString(plist_t dictionary, const char* key, const QString& value)
 {
     plist_dict_set_item(dictionary, key, plist_new_string(value.toUtf8().constData()));
@@ -158,16 +182,20 @@ Preferences loadPreferences(QString* error)
 {
     Preferences preferences = Preferences::defaults();
     const QString path = preferencesFilePath();
-    if (!QFile::exists(path)) {
+    if (!pathExists(path)) {
         savePreferences(preferences, error);
         return preferences;
     }
     const Plist dictionary = readPlist(path, error);
     if (!dictionary)
         return preferences;
-    readString(dictionary.get(), preferencekeys::DefaultLogFolderPath, preferences.defaultLogFolderPath);
-    readString(dictionary.get(), preferencekeys::DefaultProfileFolderPath, preferences.defaultProfileFolderPath);
-    readString(dictionary.get(), preferencekeys::DefaultRulesFolderPath, preferences.defaultRulesFolderPath);
+    QStringList problems;
+    readFolder(dictionary.get(), preferencekeys::DefaultLogFolderPath, preferences.defaultLogFolderPath, problems);
+    readFolder(
+        dictionary.get(), preferencekeys::DefaultProfileFolderPath, preferences.defaultProfileFolderPath, problems);
+    readFolder(dictionary.get(), preferencekeys::DefaultRulesFolderPath, preferences.defaultRulesFolderPath, problems);
+    if (!problems.isEmpty())
+        setError(error, problems.join(QLatin1Char('\n')));
     readFlag(dictionary.get(), preferencekeys::AutomaticSaveCurrProfile, preferences.automaticSaveCurrProfile);
     return preferences;
 }

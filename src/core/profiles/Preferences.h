@@ -48,8 +48,9 @@ struct Preferences {
 
 // Reads "preferences.plist". A missing file is written with the defaults (an error
 // there is reported but the defaults are still answered). A file that is not a property
-// list dictionary is left as it is and the defaults are answered; a key missing from the
-// file keeps its default.
+// list dictionary (or not a regular file, or too large, or nested too deep) is left as it is
+// and the defaults are answered; a key missing from the file keeps its default, and so does
+// a folder path that is empty, relative, or names something that is not a folder (reported).
 Preferences loadPreferences(QString* error = nullptr);
 
 // Writes "preferences.plist" as an XML property list, replacing the old file only once the

@@ -1,10 +1,12 @@
+#include "core/log/LogRecovery.h"
 #include "core/log/RenameLog.h"
 #include "core/log/RenameLogReader.h"
-#include "core/platform/FileOperations.h"
+#include "core/platform/FaultInjection.h"
+#include "core/text/NameParts.h"
 #include "support/TempTree.h"
 
+#include <QDir>
 #include <QFile>
-#include <csignal>
 #include <gtest/gtest.h>
 
 using namespace tavrin;
@@ -112,42 +114,58 @@ TEST(RenameLogInterimFile, ALogLeftByAnotherBatchIsNeverOverwritten)
     EXPECT_EQ(contentOf(interim), leftover);
 }
 
-// A real kill: the child renames files and dies by SIGKILL before finishing; the parent finds
-// every rename the child made named in the log it left.
-TEST(RenameLogInterimFileDeathTest, NamesEveryRenameOfAKilledBatch)
+// Regression: nothing was synced, so after a power cut the renames could be on disk and the
+// log not. The head, the file and its folder entry, is on the disk before the first rename, and
+// a log that cannot be synced counts as one that cannot be made.
+TEST(RenameLogInterimFile, IsSyncedBeforeTheFirstRename)
 {
     test::TempTree tree;
-    for (int i = 0; i < 5; ++i)
-        tree.file(QStringLiteral("files/f%1").arg(i), QByteArray::number(i));
-    const QString logs = tree.folder(QStringLiteral("logs"));
-    const QString files = tree.path(QStringLiteral("files"));
-
-    const auto renameThreeThenDie = [&] {
+    {
         RenameLog log;
-        if (!log.create(logs, QStringLiteral("FILES"), batchStart))
-            std::_Exit(2);
-        for (int i = 0; i < 3; ++i) {
-            const QString source = files + QStringLiteral("/f%1").arg(i);
-            const QString target = files + QStringLiteral("/renamed %1").arg(i);
-            log.addLogEntry(source, target);
-            if (moveItemNoReplace(source, target).ok())
-                log.confirmEntry();
-            else
-                log.dropLastEntry();
-        }
-        std::raise(SIGKILL);
-    };
-    EXPECT_EXIT(renameThreeThenDie(), ::testing::KilledBySignal(SIGKILL), "");
-
-    const QList<RenameLogEntry> entries
-        = entriesOnDisk(logs + QStringLiteral("/Log 15-11-2026 09-05-07-#.xml"));
-    ASSERT_EQ(entries.size(), 3);
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(entries[i].sourcePath(), files + QStringLiteral("/f%1").arg(i));
-        EXPECT_EQ(entries[i].targetPath(), files + QStringLiteral("/renamed %1").arg(i));
-        EXPECT_EQ(tree.read(QStringLiteral("files/renamed %1").arg(i)), QByteArray::number(i));
+        test::InjectedFaults counting({});
+        ASSERT_TRUE(log.create(tree.root(), QStringLiteral("FILES"), batchStart));
+        EXPECT_EQ(test::InjectedFaults::calls(test::Call::Sync), 2);
     }
-    EXPECT_TRUE(tree.exists(QStringLiteral("files/f3")));
+    for (int nth : {1, 2}) {
+        test::TempTree other;
+        RenameLog log;
+        test::InjectedFaults failing({{test::Call::Sync, nth, EIO}});
+        EXPECT_FALSE(log.create(other.root(), QStringLiteral("FILES"), batchStart)) << "sync " << nth;
+        EXPECT_FALSE(QFile::exists(log.currLogFile())) << "sync " << nth;
+    }
+}
+
+// Regression: a final log that could not be written (ENOSPC) was reported as saved, and the
+// "#" log was deleted with the only record of the batch. It stays, complete, until the
+// finished log is on disk; the next start finishes it.
+TEST(RenameLogInterimFile, StaysWhenTheFinishedLogCannotBeMade)
+{
+    const test::Fault faults[] = {
+        {test::Call::Write, 0, ENOSPC},
+        {test::Call::Sync, 0, EIO},
+        {test::Call::RenameNoReplace, 0, EACCES},
+    };
+    for (const test::Fault& fault : faults) {
+        test::TempTree tree;
+        RenameLog log;
+        ASSERT_TRUE(log.create(tree.root(), QStringLiteral("FILES"), batchStart));
+        for (const char* name : {"a", "b"}) {
+            log.addLogEntry(QStringLiteral("/d/") + QLatin1String(name), QStringLiteral("/d/x") + QLatin1String(name));
+            log.confirmEntry();
+        }
+        QString path;
+        {
+            test::InjectedFaults injected({fault});
+            path = log.finish();
+        }
+        EXPECT_TRUE(path.isEmpty()) << int(fault.call);
+        EXPECT_TRUE(log.finishError().contains(log.currLogFile())) << int(fault.call);
+        EXPECT_EQ(QDir(tree.root()).entryList(QDir::Files), QStringList {lastPathComponent(log.currLogFile())});
+        EXPECT_EQ(readLogEntries(log.currLogFile())->entries, log.entries()) << int(fault.call);
+        const LogRecoveryReport report = recoverInterruptedLogs(tree.root());
+        ASSERT_EQ(report.finished.size(), 1) << int(fault.call);
+        EXPECT_EQ(readLogEntries(report.finished[0])->entries, log.entries()) << int(fault.call);
+    }
 }
 
 }  // namespace

@@ -2,10 +2,14 @@
 #include "LogFixtures.h"
 #include "core/log/LogFileCheck.h"
 #include "core/log/LogFileLock.h"
+#include "core/log/RenameLogReader.h"
+#include "core/platform/FaultInjection.h"
+#include "core/platform/FileOperations.h"
 #include "core/text/LocalizedStrings.h"
 
 #include <QDir>
 #include <QFile>
+#include <functional>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -50,33 +54,69 @@ TEST_F(UndoRenamingTest, UndoesAChainFromTheLastRenameBack)
     EXPECT_FALSE(QFile::exists(path));
 }
 
-TEST_F(UndoRenamingTest, LeavesAnOldNameTakenByAnotherItemAlone)
+// Regressions: a failed move (EIO) deleted the log all the same, so the undo could not be tried
+// again, and the message blamed every failure on a gone item or a taken name; an item that
+// only had the new name of the renamed one (its identity differs) was moved back.
+TEST_F(UndoRenamingTest, KeepsInTheLogEveryEntryItCouldNotRestoreAndSaysWhy)
 {
-    tree.file(QStringLiteral("d/renamed"), "renamed");
-    tree.file(QStringLiteral("d/original"), "newcomer");
-    tree.file(QStringLiteral("d/two"), "2");
-    const QString path = log({ entry(QStringLiteral("d/original"), QStringLiteral("d/renamed")),
-        entry(QStringLiteral("d/one"), QStringLiteral("d/two")) });
-
-    const UndoSummary summary = undo(path);
-    EXPECT_EQ(summary.restored, 1);
-    EXPECT_EQ(summary.notRestored(), 1);
-    EXPECT_EQ(tree.read(QStringLiteral("d/original")), QByteArray("newcomer"));
-    EXPECT_EQ(tree.read(QStringLiteral("d/renamed")), QByteArray("renamed"));
-    EXPECT_EQ(tree.read(QStringLiteral("d/one")), QByteArray("2"));
-    EXPECT_FALSE(QFile::exists(path));
-}
-
-TEST_F(UndoRenamingTest, DeletesTheLogEvenWhenNothingCouldBeRestored)
-{
-    const QString path = log({ entry(QStringLiteral("d/gone"), QStringLiteral("d/also gone")) });
-    const UndoSummary summary = undo(path);
-    EXPECT_EQ(summary.outcome, UndoOutcome::Done);
-    EXPECT_EQ(summary.entries, 1);
-    EXPECT_EQ(summary.restored, 0);
-    EXPECT_FALSE(QFile::exists(path));
-    EXPECT_EQ(undoSummaryText(summary).count(QLatin1Char('\n')), 2);
-    EXPECT_TRUE(undoSummaryText(summary).contains(localized("UNDOTOTALNOSITEMDOESNOTEXISTS").arg(1)));
+    struct Row {
+        const char* what;
+        std::function<void(test::TempTree&)> obstacle; // after the batch, before the undo
+        std::vector<test::Fault> faults;
+        UndoProblemKind kind;
+    };
+    const Row rows[] = {
+        {"old name taken", [](test::TempTree& t) { t.file(QStringLiteral("d/original"), "newcomer"); }, {},
+            UndoProblemKind::OldNameTaken},
+        {"item gone", [](test::TempTree& t) { QFile::remove(t.path(QStringLiteral("d/renamed"))); }, {},
+            UndoProblemKind::ItemGone},
+        {"another item at the new name",
+            [](test::TempTree& t) {
+                QFile::remove(t.path(QStringLiteral("d/renamed")));
+                t.file(QStringLiteral("d/spare"), "other");
+                t.file(QStringLiteral("d/renamed"), "other");
+            },
+            {}, UndoProblemKind::OtherItem},
+        {"move failing with EIO", [](test::TempTree&) {}, {{test::Call::RenameNoReplace, 1, EIO}},
+            UndoProblemKind::Failed},
+    };
+    for (const Row& row : rows) {
+        test::TempTree t;
+        const QString renamed = t.file(QStringLiteral("d/renamed"), "renamed");
+        t.file(QStringLiteral("d/two"), "2");
+        const ItemIdentity item = itemIdentity(renamed);
+        const RenameLogEntry first = RenameLogEntry::fromPaths(
+            t.path(QStringLiteral("d/original")), renamed, item.device, item.inode);
+        const QList<RenameLogEntry> entries {first, RenameLogEntry::fromPaths(t.path(QStringLiteral("d/one")), t.path(QStringLiteral("d/two")))};
+        const QString path = test::writeLog(t, QStringLiteral("logs/Log 15-11-2026 09-05-07-2.xml"), entries);
+        row.obstacle(t);
+        UndoSummary summary;
+        {
+            // The second entry is undone first: its move is the first call.
+            std::vector<test::Fault> faults = row.faults;
+            for (test::Fault& fault : faults)
+                fault.nth = 2;
+            test::InjectedFaults injected(faults);
+            summary = undoRenaming(path, noCancel, nullptr);
+        }
+        EXPECT_EQ(summary.restored, 1) << row.what;
+        EXPECT_EQ(t.read(QStringLiteral("d/one")), QByteArray("2")) << row.what;
+        ASSERT_EQ(summary.problems.size(), 1) << row.what;
+        EXPECT_EQ(summary.problems[0].kind, row.kind) << row.what;
+        EXPECT_TRUE(summary.logKept && !summary.logDeleted) << row.what;
+        const QString text = undoSummaryText(summary);
+        EXPECT_TRUE(text.contains(summary.problems[0].text()) && text.contains(localized("UNDOLOGKEPT"))) << row.what;
+        EXPECT_EQ(text.contains(qt_error_string(EIO)), row.kind == UndoProblemKind::Failed) << row.what;
+        EXPECT_EQ(readLogEntries(path)->entries, QList<RenameLogEntry>({first})) << row.what;
+        EXPECT_NE(t.read(QStringLiteral("d/original")), QByteArray("renamed")) << row.what;
+        EXPECT_FALSE(row.kind == UndoProblemKind::OtherItem && t.exists(QStringLiteral("d/original"))) << row.what;
+        if (row.kind == UndoProblemKind::Failed) {
+            const UndoSummary retry = undoRenaming(path, noCancel, nullptr);
+            EXPECT_EQ(retry.restored, 1);
+            EXPECT_TRUE(retry.logDeleted);
+            EXPECT_EQ(t.read(QStringLiteral("d/original")), QByteArray("renamed"));
+        }
+    }
 }
 
 struct StepRow {

@@ -8,5 +8,3 @@ tavrin_add_test(test_log_undo SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/LogRecoveryTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/UndoRenamingTest.cpp)
 
-# Its own executable: it replaces renameat2() to kill a batch at an exact rename.
-tavrin_add_test(test_log_killed_batch SOURCES ${CMAKE_CURRENT_LIST_DIR}/KilledBatchUndoTest.cpp)

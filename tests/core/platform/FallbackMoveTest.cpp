@@ -1,4 +1,6 @@
 #include "core/platform/FileOperations.h"
+#include "core/text/LocalizedStrings.h"
+#include "core/platform/FaultInjection.h"
 #include "support/TempTree.h"
 
 #include <QFileInfo>
@@ -7,8 +9,8 @@
 
 using namespace tavrin;
 
-// The fallbacks serve file systems without RENAME_NOREPLACE. The local disk has it, so the
-// decision is checked on its own and each fallback move is run directly.
+// The fallbacks serve file systems without RENAME_NOREPLACE. The local disk has the flag, so
+// the system-call table is made to answer as such a file system does.
 namespace {
 
 TEST(NoReplaceFallback, OnlyAMissingFlagOrCallLeadsToAFallback)
@@ -20,11 +22,10 @@ TEST(NoReplaceFallback, OnlyAMissingFlagOrCallLeadsToAFallback)
     };
     const Row rows[] = {
         {EINVAL, false, NoReplaceFallback::LinkAndUnlink},
-        {EINVAL, true, NoReplaceFallback::CheckedRename},
+        {EINVAL, true, NoReplaceFallback::Refuse},
         {ENOSYS, false, NoReplaceFallback::LinkAndUnlink},
-        {ENOSYS, true, NoReplaceFallback::CheckedRename},
+        {ENOSYS, true, NoReplaceFallback::Refuse},
         {EEXIST, false, NoReplaceFallback::None},
-        {EEXIST, true, NoReplaceFallback::None},
         {ENOENT, false, NoReplaceFallback::None},
         {EACCES, false, NoReplaceFallback::None},
         {EXDEV, false, NoReplaceFallback::None},
@@ -36,109 +37,66 @@ TEST(NoReplaceFallback, OnlyAMissingFlagOrCallLeadsToAFallback)
             << "errno " << row.error << (row.directory ? " (folder)" : " (file)");
 }
 
-TEST(MoveFileByLink, MovesAFileAndLeavesNoSecondName)
+// Regression: a folder fell back to lstat() and rename(), which replaced an empty folder that
+// another process made in between; a file whose hard link was refused did the same to a file.
+TEST(FallbackMove, NeverReplacesAndRefusesWhereNoSafeMoveIsLeft)
 {
-    test::TempTree tree;
-    const QString source = tree.file(QStringLiteral("a.txt"), "alpha");
-    const FileResult result = moveFileByLink(source, tree.path(QStringLiteral("b.txt")));
-    EXPECT_TRUE(result.ok());
-    EXPECT_FALSE(tree.exists(QStringLiteral("a.txt")));
-    EXPECT_EQ(tree.read(QStringLiteral("b.txt")), QByteArray("alpha"));
-    EXPECT_EQ(itemIdentity(tree.path(QStringLiteral("b.txt"))).linkCount, 1U);
-}
-
-TEST(MoveFileByLink, MovesASymbolicLinkItself)
-{
-    test::TempTree tree;
-    const QString link = tree.symlink(tree.path(QStringLiteral("nowhere")), QStringLiteral("link"));
-    ASSERT_TRUE(moveFileByLink(link, tree.path(QStringLiteral("moved"))).ok());
-    EXPECT_FALSE(tree.exists(QStringLiteral("link")));
-    EXPECT_EQ(
-        QFileInfo(tree.path(QStringLiteral("moved"))).symLinkTarget(), tree.path(QStringLiteral("nowhere")));
-}
-
-TEST(MoveFileByLink, RefusesAnExistingTargetAndKeepsBoth)
-{
-    test::TempTree tree;
-    const QString source = tree.file(QStringLiteral("a.txt"), "alpha");
-    tree.file(QStringLiteral("b.txt"), "beta");
-    tree.symlink(tree.path(QStringLiteral("nowhere")), QStringLiteral("dangling"));
-
-    for (const char* target : {"b.txt", "dangling"}) {
-        const FileResult result = moveFileByLink(source, tree.path(QString::fromUtf8(target)));
-        EXPECT_EQ(result.outcome, FileOutcome::TargetExists) << target;
-        EXPECT_EQ(tree.read(QStringLiteral("a.txt")), QByteArray("alpha")) << target;
-    }
-    EXPECT_EQ(tree.read(QStringLiteral("b.txt")), QByteArray("beta"));
-    EXPECT_EQ(QFileInfo(tree.path(QStringLiteral("dangling"))).symLinkTarget(),
-        tree.path(QStringLiteral("nowhere")));
-}
-
-TEST(MoveFileByLink, ReportsAMissingSource)
-{
-    test::TempTree tree;
-    EXPECT_EQ(moveFileByLink(tree.path(QStringLiteral("ghost")), tree.path(QStringLiteral("b"))).outcome,
-        FileOutcome::SourceMissing);
-    EXPECT_FALSE(tree.exists(QStringLiteral("b")));
-}
-
-// link() answers EPERM for a folder, as it does on file systems without hard links: the
-// checked rename takes over, and still refuses a taken name.
-TEST(MoveFileByLink, FallsBackToTheCheckedRenameWhereLinksAreRefused)
-{
-    test::TempTree tree;
-    tree.file(QStringLiteral("folder/inner"), "inner");
-    tree.folder(QStringLiteral("taken"));
-    EXPECT_EQ(moveFileByLink(tree.path(QStringLiteral("folder")), tree.path(QStringLiteral("taken"))).outcome,
-        FileOutcome::TargetExists);
-    EXPECT_TRUE(tree.exists(QStringLiteral("folder/inner")));
-
-    EXPECT_TRUE(moveFileByLink(tree.path(QStringLiteral("folder")), tree.path(QStringLiteral("free"))).ok());
-    EXPECT_EQ(tree.read(QStringLiteral("free/inner")), QByteArray("inner"));
-}
-
-// rename(2) silently replaces an empty folder or a dangling link; the check must stop it.
-TEST(MoveAfterExistenceCheck, RefusesTargetsThatAPlainRenameWouldReplace)
-{
-    test::TempTree tree;
-    tree.file(QStringLiteral("folder/inner"), "inner");
-    const QString file = tree.file(QStringLiteral("file.txt"), "file");
-    tree.folder(QStringLiteral("empty"));
-    tree.symlink(tree.path(QStringLiteral("nowhere")), QStringLiteral("dangling"));
-    tree.file(QStringLiteral("other.txt"), "other");
-
     struct Row {
-        const char* source;
+        const char* name;
+        const char* source; // in the tree below
         const char* target;
+        int renameError; // what renameat2(RENAME_NOREPLACE) answers
+        std::vector<test::Fault> more;
+        FileOutcome expected;
+        bool unsupportedMessage;
     };
-    const Row rows[]
-        = {{"folder", "empty"}, {"folder", "dangling"}, {"file.txt", "dangling"}, {"file.txt", "other.txt"}};
+    const auto racer = [](const char* path) { ::mkdir(path, 0755); };
+    const Row rows[] = {
+        {"file to a free name", "a.txt", "new.txt", EINVAL, {}, FileOutcome::Ok, false},
+        {"file without the call", "a.txt", "new.txt", ENOSYS, {}, FileOutcome::Ok, false},
+        {"dangling link moved as a link", "dangling", "moved", EINVAL, {}, FileOutcome::Ok, false},
+        {"file onto a file", "a.txt", "b.txt", EINVAL, {}, FileOutcome::TargetExists, false},
+        {"file onto a dangling link", "a.txt", "dangling", EINVAL, {}, FileOutcome::TargetExists, false},
+        {"missing source", "ghost", "new.txt", EINVAL, {}, FileOutcome::SourceMissing, false},
+        {"file racing a creator", "a.txt", "new.txt", EINVAL,
+            {{test::Call::Link, 1, 0, false, racer}}, FileOutcome::TargetExists, false},
+        {"file without hard links", "a.txt", "new.txt", EINVAL,
+            {{test::Call::Link, 1, EPERM}}, FileOutcome::Failed, true},
+        {"source that cannot be unlinked", "a.txt", "new.txt", EINVAL,
+            {{test::Call::Unlink, 1, EIO}}, FileOutcome::Failed, false},
+        {"folder to a free name", "folder", "renamed", EINVAL, {}, FileOutcome::Failed, true},
+        {"folder racing an empty folder", "folder", "renamed", EINVAL,
+            {{test::Call::RenameNoReplace, 1, EINVAL, false, racer}}, FileOutcome::Failed, true},
+    };
     for (const Row& row : rows) {
-        const FileResult result = moveAfterExistenceCheck(
-            tree.path(QString::fromUtf8(row.source)), tree.path(QString::fromUtf8(row.target)));
-        EXPECT_EQ(result.outcome, FileOutcome::TargetExists) << row.source << " -> " << row.target;
+        test::TempTree tree;
+        tree.file(QStringLiteral("a.txt"), "alpha");
+        tree.file(QStringLiteral("b.txt"), "beta");
+        tree.file(QStringLiteral("folder/inner"), "inner");
+        tree.symlink(tree.path(QStringLiteral("nowhere")), QStringLiteral("dangling"));
+        const QString source = tree.path(QString::fromUtf8(row.source));
+        const QString target = tree.path(QString::fromUtf8(row.target));
+        const ItemIdentity before = itemIdentity(source);
+        const ItemIdentity targetBefore = itemIdentity(target);
+        std::vector<test::Fault> faults = row.more;
+        faults.push_back({test::Call::RenameNoReplace, 0, row.renameError});
+        FileResult result;
+        {
+            test::InjectedFaults injected(faults);
+            result = moveItemNoReplace(source, target);
+        }
+        EXPECT_EQ(result.outcome, row.expected) << row.name;
+        EXPECT_EQ(result.message == localized("FILEOPNOREPLACEUNSUPPORTED"), row.unsupportedMessage) << row.name;
+        if (row.expected == FileOutcome::Ok) {
+            EXPECT_TRUE(isSameItem(itemIdentity(target), before)) << row.name;
+            EXPECT_FALSE(pathExists(source)) << row.name;
+            continue;
+        }
+        // Nothing moved, nothing replaced, no second name left behind.
+        EXPECT_EQ(isSameItem(itemIdentity(source), before), before.exists) << row.name;
+        EXPECT_EQ(isSameItem(itemIdentity(target), targetBefore), targetBefore.exists) << row.name;
+        EXPECT_FALSE(before.exists && isSameItem(itemIdentity(target), before)) << row.name;
     }
-    EXPECT_TRUE(isDirectory(tree.path(QStringLiteral("empty"))));
-    EXPECT_EQ(QFileInfo(tree.path(QStringLiteral("dangling"))).symLinkTarget(),
-        tree.path(QStringLiteral("nowhere")));
-    EXPECT_EQ(tree.read(QStringLiteral("other.txt")), QByteArray("other"));
-    EXPECT_EQ(tree.read(QStringLiteral("folder/inner")), QByteArray("inner"));
-    EXPECT_EQ(tree.read(QStringLiteral("file.txt")), QByteArray("file"));
-}
-
-TEST(MoveAfterExistenceCheck, MovesToAFreeNameAndReportsAMissingSource)
-{
-    test::TempTree tree;
-    tree.file(QStringLiteral("folder/inner"), "inner");
-    EXPECT_TRUE(
-        moveAfterExistenceCheck(tree.path(QStringLiteral("folder")), tree.path(QStringLiteral("renamed")))
-            .ok());
-    EXPECT_EQ(tree.read(QStringLiteral("renamed/inner")), QByteArray("inner"));
-    EXPECT_FALSE(tree.exists(QStringLiteral("folder")));
-
-    EXPECT_EQ(
-        moveAfterExistenceCheck(tree.path(QStringLiteral("folder")), tree.path(QStringLiteral("x"))).outcome,
-        FileOutcome::SourceMissing);
 }
 
 }  // namespace

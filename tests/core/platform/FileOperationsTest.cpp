@@ -45,36 +45,23 @@ TEST(PathExists, CountsLinksAsTheyAreNotWhatTheyPointAt)
     EXPECT_FALSE(isDirectory(QString()));
 }
 
-TEST(MoveItemNoReplace, MovesAFileToAFreeName)
+// A file, a folder with its contents, and a link as the link it is (never what it points at).
+TEST(MoveItemNoReplace, MovesEveryKindOfItemToAFreeName)
 {
     test::TempTree tree;
-    const QString source = tree.file(QStringLiteral("a.txt"), "alpha");
-    const FileResult result = moveItemNoReplace(source, tree.path(QStringLiteral("b.txt")));
-    EXPECT_EQ(result.outcome, FileOutcome::Ok);
-    EXPECT_TRUE(result.message.isEmpty());
-    EXPECT_FALSE(tree.exists(QStringLiteral("a.txt")));
-    EXPECT_EQ(tree.read(QStringLiteral("b.txt")), QByteArray("alpha"));
-}
-
-TEST(MoveItemNoReplace, MovesAFolderWithItsContents)
-{
-    test::TempTree tree;
+    tree.file(QStringLiteral("a.txt"), "alpha");
     tree.file(QStringLiteral("old/inside.txt"), "kept");
-    const FileResult result
-        = moveItemNoReplace(tree.path(QStringLiteral("old")), tree.path(QStringLiteral("new")));
-    EXPECT_TRUE(result.ok());
-    EXPECT_FALSE(tree.exists(QStringLiteral("old")));
-    EXPECT_EQ(tree.read(QStringLiteral("new/inside.txt")), QByteArray("kept"));
-}
-
-TEST(MoveItemNoReplace, MovesASymbolicLinkItselfNotWhatItPointsAt)
-{
-    test::TempTree tree;
-    tree.file(QStringLiteral("real.txt"), "real");
-    const QString link = tree.symlink(tree.path(QStringLiteral("real.txt")), QStringLiteral("link"));
-    ASSERT_TRUE(moveItemNoReplace(link, tree.path(QStringLiteral("renamed-link"))).ok());
-    EXPECT_EQ(linkTarget(tree.path(QStringLiteral("renamed-link"))), tree.path(QStringLiteral("real.txt")));
-    EXPECT_EQ(tree.read(QStringLiteral("real.txt")), QByteArray("real"));
+    tree.symlink(tree.path(QStringLiteral("a.txt")), QStringLiteral("link"));
+    for (const char* name : {"old", "link", "a.txt"}) {
+        const QString source = tree.path(QString::fromUtf8(name));
+        const ItemIdentity before = itemIdentity(source);
+        const FileResult result = moveItemNoReplace(source, source + QStringLiteral(" moved"));
+        EXPECT_TRUE(result.ok() && result.message.isEmpty()) << name;
+        EXPECT_FALSE(pathExists(source)) << name;
+        EXPECT_TRUE(isSameItem(itemIdentity(source + QStringLiteral(" moved")), before)) << name;
+    }
+    EXPECT_EQ(tree.read(QStringLiteral("old moved/inside.txt")), QByteArray("kept"));
+    EXPECT_EQ(linkTarget(tree.path(QStringLiteral("link moved"))), tree.path(QStringLiteral("a.txt")));
 }
 
 // Every kind of occupant of the new name must survive a move onto it, and so must the item
@@ -135,32 +122,32 @@ TEST(MoveItemNoReplace, NeverReplacesWhatHasTheNewName)
     }
 }
 
+// ENOENT about the target's folder is not a missing source; a folder cannot go into itself.
 TEST(MoveItemNoReplace, ReportsAMissingSourceApartFromOtherFailures)
 {
     test::TempTree tree;
-    const FileResult missing
-        = moveItemNoReplace(tree.path(QStringLiteral("ghost")), tree.path(QStringLiteral("anything")));
-    EXPECT_EQ(missing.outcome, FileOutcome::SourceMissing);
-    EXPECT_EQ(missing.error, ENOENT);
-
-    // ENOENT here is about the target's folder: the source is there and stays.
-    const QString source = tree.file(QStringLiteral("here.txt"), "here");
-    const FileResult noFolder
-        = moveItemNoReplace(source, tree.path(QStringLiteral("no-such-folder/here.txt")));
-    EXPECT_EQ(noFolder.outcome, FileOutcome::Failed);
-    EXPECT_EQ(noFolder.error, ENOENT);
-    EXPECT_EQ(tree.read(QStringLiteral("here.txt")), QByteArray("here"));
-}
-
-TEST(MoveItemNoReplace, RefusesToMoveAFolderIntoItself)
-{
-    test::TempTree tree;
+    tree.file(QStringLiteral("here.txt"), "here");
     tree.file(QStringLiteral("parent/child.txt"), "c");
-    const FileResult result
-        = moveItemNoReplace(tree.path(QStringLiteral("parent")), tree.path(QStringLiteral("parent/moved")));
-    EXPECT_EQ(result.outcome, FileOutcome::Failed);
+    struct Row {
+        const char* source;
+        const char* target;
+        FileOutcome outcome;
+        int error;
+    };
+    const Row rows[] = {
+        {"ghost", "anything", FileOutcome::SourceMissing, ENOENT},
+        {"here.txt", "no-such-folder/here.txt", FileOutcome::Failed, ENOENT},
+        {"parent", "parent/moved", FileOutcome::Failed, EINVAL},
+    };
+    for (const Row& row : rows) {
+        const FileResult result
+            = moveItemNoReplace(tree.path(QString::fromUtf8(row.source)), tree.path(QString::fromUtf8(row.target)));
+        EXPECT_EQ(result.outcome, row.outcome) << row.source;
+        EXPECT_EQ(result.error, row.error) << row.source;
+        EXPECT_FALSE(tree.exists(QString::fromUtf8(row.target))) << row.source;
+    }
+    EXPECT_EQ(tree.read(QStringLiteral("here.txt")), QByteArray("here"));
     EXPECT_EQ(tree.read(QStringLiteral("parent/child.txt")), QByteArray("c"));
-    EXPECT_FALSE(tree.exists(QStringLiteral("parent/moved")));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "core/profiles/Preferences.h"
 #include "core/text/LocalizedStrings.h"
+#include "reliability/HostileFiles.h"
 #include "support/TempTree.h"
 
 #include <QDir>
@@ -7,6 +8,7 @@
 #include <QFileInfo>
 #include <QMap>
 #include <QXmlStreamReader>
+#include <functional>
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
@@ -202,6 +204,13 @@ TEST_F(PreferencesTest, ADamagedFileGivesTheDefaultsAndIsLeftAsItIs)
         {"array", QByteArray("<plist version=\"1.0\"><array><string>/x</string></array></plist>")},
         {"binary header only", QByteArray("bplist00\x01\x02\x03", 11)},
         {"zero bytes", QByteArray(64, '\0')},
+        // Regression: libplist recursed once per level and crashed every start.
+        {"100,000 nested binary arrays", test::deepBinaryPlist(100000)},
+        {"100,000 nested XML arrays", test::deepXmlPlist(100000)},
+        {"arrays holding each other", test::cyclicBinaryPlist()},
+        {"billion laughs", test::billionLaughsPlist()},
+        {"external entity", test::externalEntityPlist(QFile::encodeName(m_tree.file(QStringLiteral("secret"), "/x")))},
+        {"larger than any preferences", plistWith("<key>k</key><string>" + QByteArray(2 << 20, 'x') + "</string>\n")},
     };
     for (const DamagedRow& row : rows) {
         m_tree.file(kSupportRelative + QStringLiteral("/preferences.plist"), row.content);
@@ -209,6 +218,43 @@ TEST_F(PreferencesTest, ADamagedFileGivesTheDefaultsAndIsLeftAsItIs)
         EXPECT_EQ(loadPreferences(&error), Preferences::defaults()) << row.name;
         EXPECT_EQ(error, localized("PREFERENCESREADFAILED").arg(preferencesFile())) << row.name;
         EXPECT_EQ(m_tree.read(kSupportRelative + QStringLiteral("/preferences.plist")), row.content) << row.name;
+    }
+}
+
+// Regression: a FIFO hung every command, a link to /dev/zero grew the program until it aborted.
+TEST_F(PreferencesTest, ASpecialFileIsNeverReadOrWaitedFor)
+{
+    const QString path = preferencesFile();
+    const std::function<void()> makers[] = {
+        [&] { ::mkfifo(QFile::encodeName(path).constData(), 0644); },
+        [&] { QFile::link(QStringLiteral("/dev/zero"), path); },
+        [&] { QDir().mkpath(path); },
+    };
+    for (const auto& make : makers) {
+        QDir().mkpath(support());
+        make();
+        QString error;
+        EXPECT_EQ(loadPreferences(&error), Preferences::defaults());
+        EXPECT_EQ(error, localized("PREFERENCESREADFAILED").arg(path));
+        QFile::remove(path) || QDir(path).removeRecursively();
+    }
+}
+
+// Regression: an empty log folder path put the logs in the current folder, where undo from
+// anywhere else never found them.
+TEST_F(PreferencesTest, AFolderPathThatCannotServeFallsBackToTheDefault)
+{
+    const QString notAFolder = m_tree.file(QStringLiteral("plain file"), "x");
+    const QString rows[] = {QString(), QStringLiteral("relative/logs"), notAFolder};
+    for (const QString& folder : rows) {
+        m_tree.file(kSupportRelative + QStringLiteral("/preferences.plist"),
+            plistWith("<key>defaultLogFolderPath</key><string>" + folder.toUtf8() + "</string>\n"
+                      "<key>defaultRulesFolderPath</key><string>/elsewhere/rules</string>\n"));
+        QString error;
+        const Preferences read = loadPreferences(&error);
+        EXPECT_EQ(read.defaultLogFolderPath, Preferences::defaults().defaultLogFolderPath) << qPrintable(folder);
+        EXPECT_EQ(read.defaultRulesFolderPath, QStringLiteral("/elsewhere/rules")) << qPrintable(folder);
+        EXPECT_EQ(error, localized("PREFERENCESFOLDERFALLBACK").arg(folder, read.defaultLogFolderPath));
     }
 }
 

@@ -1,0 +1,16 @@
+# Fuzz targets. With TAVRIN_FUZZ (clang, `make fuzz`) each is a libFuzzer program; otherwise
+# each runs its seed corpus, crashes found included, once as an ordinary test.
+option(TAVRIN_FUZZ "Build the fuzz targets with libFuzzer (clang)" OFF)
+set(tavrin_fuzz_targets Strings PropertyLists RenameLogs)
+foreach(target ${tavrin_fuzz_targets})
+  string(TOLOWER ${target} corpus)
+  if(TAVRIN_FUZZ)
+    add_executable(fuzz_${corpus} ${CMAKE_CURRENT_LIST_DIR}/Fuzz${target}.cpp)
+    target_link_options(fuzz_${corpus} PRIVATE -fsanitize=fuzzer)
+  else()
+    add_executable(fuzz_${corpus} ${CMAKE_CURRENT_LIST_DIR}/Fuzz${target}.cpp ${CMAKE_CURRENT_LIST_DIR}/CorpusMain.cpp)
+    add_test(NAME fuzz_corpus_${corpus} COMMAND fuzz_${corpus} ${CMAKE_CURRENT_LIST_DIR}/corpus/${corpus})
+  endif()
+  target_include_directories(fuzz_${corpus} PRIVATE ${PROJECT_SOURCE_DIR}/tests ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(fuzz_${corpus} PRIVATE tavrin_core tavrin_warnings)
+endforeach()
