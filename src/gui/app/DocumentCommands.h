@@ -9,7 +9,8 @@ class QWidget;
 namespace tavrin {
 
 class Prompter;
-class TavrinAppController;
+class SessionController;
+struct ChooserQuestion;
 struct ProfileOutcome;
 
 // The commands that open and save profiles, and what happens to rule files and profiles
@@ -19,9 +20,9 @@ class DocumentCommands : public QObject {
 
 public:
     // Chooses a file to open or a name to save under; empty when the user cancelled.
-    using FileChooser = std::function<QString(QWidget* parent, const QString& title, const QString& folder)>;
+    using FileChooser = std::function<QString(QWidget* parent, const ChooserQuestion& question)>;
 
-    DocumentCommands(TavrinAppController* controller, QWidget* window);
+    DocumentCommands(SessionController* session, QWidget* window);
 
     void setPrompter(Prompter* prompter) { m_prompter = prompter; }
     void setFileChoosers(FileChooser openChooser, FileChooser saveChooser);
@@ -44,7 +45,7 @@ public:
 private:
     void saveProfileTo(const QString& path);
 
-    TavrinAppController* m_controller;
+    SessionController* m_session;
     QWidget* m_window;
     Prompter* m_prompter = nullptr;
     FileChooser m_openChooser;

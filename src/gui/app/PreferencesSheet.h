@@ -2,7 +2,8 @@
 
 #include "core/profiles/Preferences.h"
 
-#include <QDialog>
+#include "gui/ui/Sheet.h"
+
 #include <QString>
 #include <functional>
 
@@ -13,30 +14,29 @@ class QLineEdit;
 
 namespace tavrin {
 
+class Prompter;
+struct ChooserQuestion;
+
 // The sheet of the preferences: the folders where rules, profiles and logs are kept, and
 // whether the profile in use is saved without asking. It only edits a copy; the window
 // saves what preferences() answers once the sheet is accepted, which it is only when
 // every folder exists.
-class PreferencesSheet : public QDialog {
+class PreferencesSheet : public Sheet {
     Q_OBJECT
 
 public:
-    using FolderChooser = std::function<QString(QWidget* parent, const QString& title, const QString& start)>;
-    using Warner = std::function<void(QWidget* parent, const QString& title, const QString& message)>;
+    using FolderChooser = std::function<QString(QWidget* parent, const ChooserQuestion& question)>;
 
-    explicit PreferencesSheet(const Preferences& preferences, QWidget* parent = nullptr);
+    // A folder that is not there is told through `prompter`.
+    PreferencesSheet(const Preferences& preferences, Prompter* prompter, QWidget* parent = nullptr);
 
     // The values as edited, the folder paths cleaned.
     Preferences preferences() const;
 
-    // Replace the folder dialog and the warning box, so that tests answer them.
+    // Replaces the folder dialog, so that tests answer it.
     void setFolderChooser(FolderChooser chooser);
-    void setWarner(Warner warner);
 
     void accept() override;
-
-signals:
-    void helpRequested();
 
 private:
     struct FolderRow;
@@ -49,8 +49,8 @@ private:
     QLineEdit* m_profilesField = nullptr;
     QLineEdit* m_logsField = nullptr;
     QCheckBox* m_automaticSaveBox = nullptr;
+    Prompter* m_prompter;
     FolderChooser m_chooseFolder;
-    Warner m_warn;
 };
 
 } // namespace tavrin

@@ -69,7 +69,7 @@ int main(int argc, char** argv)
     tavrin::recoverInterruptedLogs(support.preferences.defaultLogFolderPath);
 
     tavrin::TavrinAppController controller;
-    controller.setPreferences(support.preferences);
+    controller.session().setPreferences(support.preferences);
     const std::optional<tavrin::ProfileOutcome> lastProfileFailure = controller.applicationDidFinishLaunching();
     tavrin::MainWindow window(&controller);
     window.show();

@@ -1,0 +1,41 @@
+#include "gui/control/ActivityStatus.h"
+
+#include "core/engine/Pipeline.h"
+
+#include <QDateTime>
+
+namespace tavrin {
+
+namespace {
+
+double secondsSinceEpoch()
+{
+    return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0;
+}
+
+} // namespace
+
+void ActivityStatus::startTiming()
+{
+    m_startTime = m_endTime = secondsSinceEpoch();
+}
+
+void ActivityStatus::finishTiming(const char* key)
+{
+    m_endTime = secondsSinceEpoch();
+    m_lastActionTimeTaken = timeTakenText(m_endTime - m_startTime, key);
+    emit lastActionTimeTakenChanged(m_lastActionTimeTaken);
+}
+
+void ActivityStatus::clearTimeTaken()
+{
+    m_lastActionTimeTaken.clear();
+    emit lastActionTimeTakenChanged(m_lastActionTimeTaken);
+}
+
+void ActivityStatus::showMessage(const QString& text)
+{
+    emit progressMessage(text);
+}
+
+} // namespace tavrin
