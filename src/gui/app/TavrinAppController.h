@@ -24,6 +24,7 @@ public:
     Settings& settings() { return m_settings; }
     ActivityStatus& status() { return m_status; }
     ListController& list() { return m_list; }
+    const ListController& list() const { return m_list; }
     RenameController& rename() { return m_rename; }
     SessionController& session() { return m_session; }
 

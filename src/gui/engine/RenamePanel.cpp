@@ -167,8 +167,8 @@ void RenamePanel::actionApply()
     // Asked later from the worker; the panel may be gone by then.
     const QPointer<RenamePanel> panel(this);
     m_rename->apply([panel] {
-        Prompter* prompter = panel ? panel->m_prompter : nullptr;
-        return prompter && prompter->continueWithoutLog(panel->window());
+        const RenamePanel* owner = panel.data();
+        return owner != nullptr && owner->m_prompter->continueWithoutLog(owner->window());
     });
 }
 

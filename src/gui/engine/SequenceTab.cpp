@@ -64,28 +64,31 @@ QWidget* SequenceTab::fieldForOption(const QString& optionKey) const
     return m_binder->field(optionKey);
 }
 
+// A radio button with the field of its value beside it, one row of `group`'s grid: the
+// button's id is also its row.
+void SequenceTab::addChoiceRow(QGridLayout* grid, QButtonGroup* group, const ChoiceRow& choice)
+{
+    QRadioButton* button = m_binder->radioButton(
+        group, choice.id, QString::fromLatin1(choice.objectName), choice.labelKey);
+    OptionBinder::describeRow({ button, choice.field }, localized(choice.tipKey));
+    grid->addWidget(button, choice.id, 0);
+    grid->addWidget(choice.field, choice.id, 1);
+}
+
 QGroupBox* SequenceTab::makeKindGroup()
 {
     auto* group = new QGroupBox(localized("SEQUENCEKINDGROUP"));
     QGridLayout* grid = groupGrid(group);
     QButtonGroup* kinds = m_binder->radioGroup(&Settings::chooseNumericOrAlphabetic,
         [](const Settings& settings) { return settings.isAlphaNumericNumeric() ? kNumeric : kAlphabetic; });
-
-    QRadioButton* numbers
-        = m_binder->radioButton(kinds, kNumeric, QStringLiteral("sequenceNumeric"), "SEQUENCENUMBERS");
-    QLineEdit* numberStart = m_binder->numberField(
-        Settings::alphaNumericNumericStartWithKey, Kind::Number, OptionBinder::SequenceDigits);
-    OptionBinder::describeRow({ numbers, numberStart }, localized("SEQUENCENUMBERSTIP"));
-    grid->addWidget(numbers, 0, 0);
-    grid->addWidget(numberStart, 0, 1);
-
-    QRadioButton* letters
-        = m_binder->radioButton(kinds, kAlphabetic, QStringLiteral("sequenceAlphabetic"), "SEQUENCELETTERS");
-    QLineEdit* letterStart = m_binder->lettersField(Settings::alphaNumericAlphabeticStartWithKey);
-    OptionBinder::describeRow({ letters, letterStart }, localized("SEQUENCELETTERSTIP"));
-    grid->addWidget(letters, 1, 0);
-    grid->addWidget(letterStart, 1, 1);
-
+    addChoiceRow(grid, kinds,
+        { kNumeric, "sequenceNumeric", "SEQUENCENUMBERS",
+            m_binder->numberField(
+                Settings::alphaNumericNumericStartWithKey, Kind::Number, OptionBinder::SequenceDigits),
+            "SEQUENCENUMBERSTIP" });
+    addChoiceRow(grid, kinds,
+        { kAlphabetic, "sequenceAlphabetic", "SEQUENCELETTERS",
+            m_binder->lettersField(Settings::alphaNumericAlphabeticStartWithKey), "SEQUENCELETTERSTIP" });
     grid->setRowStretch(2, 1);
     return group;
 }
@@ -95,22 +98,16 @@ QGroupBox* SequenceTab::makeCountingGroup()
     auto* group = new QGroupBox(localized("SEQUENCECOUNTGROUP"));
     QGridLayout* grid = groupGrid(group);
     QButtonGroup* directions = m_binder->radioGroup(&Settings::chooseIncrementOrDecrement, chosenDirection);
-
-    QRadioButton* up
-        = m_binder->radioButton(directions, kIncrement, QStringLiteral("sequenceIncrement"), "SEQUENCEUP");
-    QLineEdit* upBy = m_binder->numberField(
-        Settings::alphaNumericIncrementByKey, Kind::PositiveNumber, OptionBinder::SequenceDigits);
-    OptionBinder::describeRow({ up, upBy }, localized("SEQUENCEUPTIP"));
-    grid->addWidget(up, 0, 0);
-    grid->addWidget(upBy, 0, 1);
-
-    QRadioButton* down
-        = m_binder->radioButton(directions, kDecrement, QStringLiteral("sequenceDecrement"), "SEQUENCEDOWN");
-    QLineEdit* downBy = m_binder->numberField(
-        Settings::alphaNumericDecrementByKey, Kind::PositiveNumber, OptionBinder::SequenceDigits);
-    OptionBinder::describeRow({ down, downBy }, localized("SEQUENCEDOWNTIP"));
-    grid->addWidget(down, 1, 0);
-    grid->addWidget(downBy, 1, 1);
+    addChoiceRow(grid, directions,
+        { kIncrement, "sequenceIncrement", "SEQUENCEUP",
+            m_binder->numberField(
+                Settings::alphaNumericIncrementByKey, Kind::PositiveNumber, OptionBinder::SequenceDigits),
+            "SEQUENCEUPTIP" });
+    addChoiceRow(grid, directions,
+        { kDecrement, "sequenceDecrement", "SEQUENCEDOWN",
+            m_binder->numberField(
+                Settings::alphaNumericDecrementByKey, Kind::PositiveNumber, OptionBinder::SequenceDigits),
+            "SEQUENCEDOWNTIP" });
 
     QCheckBox* reset
         = m_binder->checkBox(Settings::isAlphaNumericResetSequenceOnEachFolderKey, "SEQUENCERESET");
