@@ -12,15 +12,11 @@ tavrin_add_test(test_gui_widgets GUI SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/ActionTabsTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/AttachedWindowTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FileTableModelTest.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/GeneralTabTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/HelpPageTest.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/InsertDeleteTabTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ItemIconCacheTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/LivePreviewSheetTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageBoxPrompterTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/OutsideItemsTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PasteboardItemsSheetTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PreferencesSheetTest.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/ReplaceRemoveTabTest.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/SequenceTabTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TextFieldFormatterTest.cpp)
