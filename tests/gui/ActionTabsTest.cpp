@@ -1,7 +1,7 @@
+#include "gui/engine/ActionTabs.h"
 #include "core/profiles/Settings.h"
 #include "core/profiles/Tabs.h"
 #include "core/text/LocalizedStrings.h"
-#include "gui/engine/ActionTabs.h"
 #include "gui/engine/GeneralTab.h"
 #include "gui/engine/InsertDeleteTab.h"
 #include "gui/engine/ReplaceRemoveTab.h"
@@ -128,22 +128,28 @@ struct ChoiceGroup {
 TEST_F(ActionTabTest, EveryChoiceSetsItsIndexAndExactlyItsMirror)
 {
     const ChoiceGroup groups[] = {
-        {Kind::Sequence, "alphaNumericNumericAlphabeticIndex", {u"sequenceNumeric"_s, u"sequenceAlphabetic"_s},
-            {u"isAlphaNumericNumeric"_s, u"isAlphaNumericAlphabetic"_s}},
-        {Kind::Sequence, "alphaNumericIncrementDecrementIndex", {u"sequenceIncrement"_s, u"sequenceDecrement"_s},
-            {u"isAlphaNumericIncrement"_s, u"isAlphaNumericDecrement"_s}},
-        {Kind::InsertDelete, "insertDeleteIndex", {u"insertMode"_s, u"deleteMode"_s},
-            {u"isInsertDeleteInsert"_s, u"isInsertDeleteDelete"_s}},
-        {Kind::InsertDelete, "insertDeleteInsertOptionIndex", numbered(u"insertPlace"_s, 5),
-            {u"isInsertDeleteInsertAtBeginning"_s, u"isInsertDeleteInsertAtEnd"_s, u"isInsertDeleteInsertAtPosition"_s,
-                u"isInsertDeleteInsertAtBeforeText"_s, u"isInsertDeleteInsertAtAfterText"_s}},
-        {Kind::ReplaceRemove, "removeReplaceIndex", {u"replaceMode"_s, u"removeMode"_s, u"removeCharactersMode"_s},
-            {u"isReplaceRemoveReplace"_s, u"isReplaceRemoveRemove"_s, u"isReplaceRemoveRemoveCharacters"_s}},
-        {Kind::General, "generalOptionIndex", numbered(u"generalOption"_s, 12),
-            {u"isGeneralConvertFilenameCase"_s, u"isGeneralConvertExtension"_s, u"isGeneralRemoveExtension"_s,
-                u"isGeneralChangeExtension"_s, u"isGeneralReverseFileName"_s, u"isGeneralRemoveSpaces"_s,
-                u"isGeneralSwapFromSeperator"_s, u"isGeneralSwapFromPostion"_s, u"isGeneralRemoveAfterString"_s,
-                u"isGeneralRemoveFromString"_s, u"isGeneralFilenameMask"_s, u"isGeneralConvertWindowsCompatible"_s}},
+        { Kind::Sequence, "alphaNumericNumericAlphabeticIndex",
+            { u"sequenceNumeric"_s, u"sequenceAlphabetic"_s },
+            { u"isAlphaNumericNumeric"_s, u"isAlphaNumericAlphabetic"_s } },
+        { Kind::Sequence, "alphaNumericIncrementDecrementIndex",
+            { u"sequenceIncrement"_s, u"sequenceDecrement"_s },
+            { u"isAlphaNumericIncrement"_s, u"isAlphaNumericDecrement"_s } },
+        { Kind::InsertDelete, "insertDeleteIndex", { u"insertMode"_s, u"deleteMode"_s },
+            { u"isInsertDeleteInsert"_s, u"isInsertDeleteDelete"_s } },
+        { Kind::InsertDelete, "insertDeleteInsertOptionIndex", numbered(u"insertPlace"_s, 5),
+            { u"isInsertDeleteInsertAtBeginning"_s, u"isInsertDeleteInsertAtEnd"_s,
+                u"isInsertDeleteInsertAtPosition"_s, u"isInsertDeleteInsertAtBeforeText"_s,
+                u"isInsertDeleteInsertAtAfterText"_s } },
+        { Kind::ReplaceRemove, "removeReplaceIndex",
+            { u"replaceMode"_s, u"removeMode"_s, u"removeCharactersMode"_s },
+            { u"isReplaceRemoveReplace"_s, u"isReplaceRemoveRemove"_s,
+                u"isReplaceRemoveRemoveCharacters"_s } },
+        { Kind::General, "generalOptionIndex", numbered(u"generalOption"_s, 12),
+            { u"isGeneralConvertFilenameCase"_s, u"isGeneralConvertExtension"_s,
+                u"isGeneralRemoveExtension"_s, u"isGeneralChangeExtension"_s, u"isGeneralReverseFileName"_s,
+                u"isGeneralRemoveSpaces"_s, u"isGeneralSwapFromSeperator"_s, u"isGeneralSwapFromPostion"_s,
+                u"isGeneralRemoveAfterString"_s, u"isGeneralRemoveFromString"_s, u"isGeneralFilenameMask"_s,
+                u"isGeneralConvertWindowsCompatible"_s } },
     };
     for (const ChoiceGroup& group : groups) {
         show(group.kind);
@@ -168,45 +174,53 @@ struct EnabledRow {
 TEST_F(ActionTabTest, OnlyTheInputsOfTheChosenOptionsAreEnabled)
 {
     const QList<const char*> ruled[] = {
-        {"alphaNumericNumericStartWith", "alphaNumericAlphabeticStartWith", "alphaNumericIncrementBy",
-            "alphaNumericDecrementBy", "isAlphaNumericSeperator", "alphaNumericSeperator"},
-        {"insertDeleteInsert", "insertDeleteAtCharacterPositions", "insertDeleteInsertAtPostionDirection",
-            "insertDeleteInsertAtBeforeText", "insertDeleteInsertAtBeforeOccurrence", "insertDeleteInsertAtAfterText",
-            "insertDeleteInsertAtAfterOccurrence", "insertDeleteNumberOfCharacters", "insertDeleteFromCharacterPosition",
-            "isInsertDeleteDeleteFromBackWard"},
-        {"replaceRemoveWith", "isReplaceRemoveAllOccurrence", "replaceRemoveStartOnOccurrence",
-            "replaceRemoveOccuranceCount", "replaceRemoveThis"},
-        {"generalFileNameCase", "generalExtensionCase", "generalChangeExtension", "generalSwapSeperator",
+        { "alphaNumericNumericStartWith", "alphaNumericAlphabeticStartWith", "alphaNumericIncrementBy",
+            "alphaNumericDecrementBy", "isAlphaNumericSeperator", "alphaNumericSeperator" },
+        { "insertDeleteInsert", "insertDeleteAtCharacterPositions", "insertDeleteInsertAtPostionDirection",
+            "insertDeleteInsertAtBeforeText", "insertDeleteInsertAtBeforeOccurrence",
+            "insertDeleteInsertAtAfterText", "insertDeleteInsertAtAfterOccurrence",
+            "insertDeleteNumberOfCharacters", "insertDeleteFromCharacterPosition",
+            "isInsertDeleteDeleteFromBackWard" },
+        { "replaceRemoveWith", "isReplaceRemoveAllOccurrence", "replaceRemoveStartOnOccurrence",
+            "replaceRemoveOccuranceCount", "replaceRemoveThis" },
+        { "generalFileNameCase", "generalExtensionCase", "generalChangeExtension", "generalSwapSeperator",
             "generalSwapPosition", "generalRemoveAfterString", "generalRemoveAfterStringOccurrence",
-            "generalFilenameMask", "generalConvertWindowsCompatibleString"},
+            "generalFilenameMask", "generalConvertWindowsCompatibleString" },
     };
     const EnabledRow rows[] = {
         // The separator only has a place when the value stands beside the name.
-        {Kind::Sequence, {u"sequenceNumeric"_s, u"sequenceIncrement"_s}, {{"isAlphaNumericSeperator", true}},
-            {"alphaNumericNumericStartWith", "alphaNumericIncrementBy"}},
-        {Kind::Sequence, {u"sequenceAlphabetic"_s, u"sequenceDecrement"_s}, {{"isAlphaNumericPrefix", true}},
-            {"alphaNumericAlphabeticStartWith", "alphaNumericDecrementBy", "isAlphaNumericSeperator"}},
-        {Kind::Sequence, {u"sequenceNumeric"_s}, {{"isAlphaNumericSufix", true}, {"isAlphaNumericSeperator", true}},
-            {"alphaNumericNumericStartWith", "alphaNumericIncrementBy", "isAlphaNumericSeperator",
-                "alphaNumericSeperator"}},
-        {Kind::InsertDelete, {u"insertPlace0"_s}, {}, {"insertDeleteInsert"}},
-        {Kind::InsertDelete, {u"insertPlace2"_s}, {},
-            {"insertDeleteInsert", "insertDeleteAtCharacterPositions", "insertDeleteInsertAtPostionDirection"}},
-        {Kind::InsertDelete, {u"insertPlace3"_s}, {},
-            {"insertDeleteInsert", "insertDeleteInsertAtBeforeText", "insertDeleteInsertAtBeforeOccurrence"}},
-        {Kind::InsertDelete, {u"insertPlace4"_s, u"deleteMode"_s}, {},
-            {"insertDeleteNumberOfCharacters", "insertDeleteFromCharacterPosition", "isInsertDeleteDeleteFromBackWard"}},
+        { Kind::Sequence, { u"sequenceNumeric"_s, u"sequenceIncrement"_s },
+            { { "isAlphaNumericSeperator", true } },
+            { "alphaNumericNumericStartWith", "alphaNumericIncrementBy" } },
+        { Kind::Sequence, { u"sequenceAlphabetic"_s, u"sequenceDecrement"_s },
+            { { "isAlphaNumericPrefix", true } },
+            { "alphaNumericAlphabeticStartWith", "alphaNumericDecrementBy", "isAlphaNumericSeperator" } },
+        { Kind::Sequence, { u"sequenceNumeric"_s },
+            { { "isAlphaNumericSufix", true }, { "isAlphaNumericSeperator", true } },
+            { "alphaNumericNumericStartWith", "alphaNumericIncrementBy", "isAlphaNumericSeperator",
+                "alphaNumericSeperator" } },
+        { Kind::InsertDelete, { u"insertPlace0"_s }, {}, { "insertDeleteInsert" } },
+        { Kind::InsertDelete, { u"insertPlace2"_s }, {},
+            { "insertDeleteInsert", "insertDeleteAtCharacterPositions",
+                "insertDeleteInsertAtPostionDirection" } },
+        { Kind::InsertDelete, { u"insertPlace3"_s }, {},
+            { "insertDeleteInsert", "insertDeleteInsertAtBeforeText",
+                "insertDeleteInsertAtBeforeOccurrence" } },
+        { Kind::InsertDelete, { u"insertPlace4"_s, u"deleteMode"_s }, {},
+            { "insertDeleteNumberOfCharacters", "insertDeleteFromCharacterPosition",
+                "isInsertDeleteDeleteFromBackWard" } },
         // Single characters go wherever they stand, so there are no matches to choose.
-        {Kind::ReplaceRemove, {u"replaceMode"_s}, {},
-            {"replaceRemoveThis", "replaceRemoveWith", "isReplaceRemoveAllOccurrence", "replaceRemoveStartOnOccurrence",
-                "replaceRemoveOccuranceCount"}},
-        {Kind::ReplaceRemove, {u"removeMode"_s}, {{"isReplaceRemoveAllOccurrence", true}},
-            {"replaceRemoveThis", "isReplaceRemoveAllOccurrence"}},
-        {Kind::ReplaceRemove, {u"removeCharactersMode"_s}, {}, {"replaceRemoveThis"}},
-        {Kind::General, {u"generalOption0"_s}, {}, {"generalFileNameCase"}},
-        {Kind::General, {u"generalOption4"_s}, {}, {}},
-        {Kind::General, {u"generalOption8"_s}, {}, {"generalRemoveAfterString", "generalRemoveAfterStringOccurrence"}},
-        {Kind::General, {u"generalOption11"_s}, {}, {"generalConvertWindowsCompatibleString"}},
+        { Kind::ReplaceRemove, { u"replaceMode"_s }, {},
+            { "replaceRemoveThis", "replaceRemoveWith", "isReplaceRemoveAllOccurrence",
+                "replaceRemoveStartOnOccurrence", "replaceRemoveOccuranceCount" } },
+        { Kind::ReplaceRemove, { u"removeMode"_s }, { { "isReplaceRemoveAllOccurrence", true } },
+            { "replaceRemoveThis", "isReplaceRemoveAllOccurrence" } },
+        { Kind::ReplaceRemove, { u"removeCharactersMode"_s }, {}, { "replaceRemoveThis" } },
+        { Kind::General, { u"generalOption0"_s }, {}, { "generalFileNameCase" } },
+        { Kind::General, { u"generalOption4"_s }, {}, {} },
+        { Kind::General, { u"generalOption8"_s }, {},
+            { "generalRemoveAfterString", "generalRemoveAfterStringOccurrence" } },
+        { Kind::General, { u"generalOption11"_s }, {}, { "generalConvertWindowsCompatibleString" } },
     };
     for (const EnabledRow& row : rows) {
         show(row.kind);
@@ -224,7 +238,8 @@ TEST_F(ActionTabTest, OnlyTheInputsOfTheChosenOptionsAreEnabled)
 // The word between a text and its occurrence follows its option too.
 TEST_F(ActionTabTest, TheWordBetweenATextAndItsOccurrenceFollowsItsOption)
 {
-    const std::pair<Kind, const char*> rows[] = {{Kind::General, "generalOption8"}, {Kind::InsertDelete, "insertPlace4"}};
+    const std::pair<Kind, const char*> rows[]
+        = { { Kind::General, "generalOption8" }, { Kind::InsertDelete, "insertPlace4" } };
     for (const auto& [kind, choice] : rows) {
         show(kind);
         click(QString::fromLatin1(choice));
@@ -248,27 +263,28 @@ struct TypingRow {
 TEST_F(ActionTabTest, TypingSetsTheOptionsThroughTheFieldsFilters)
 {
     const TypingRow rows[] = {
-        {Kind::Sequence, u"sequenceAlphabetic"_s, "alphaNumericAlphabeticStartWith", u"AB1c"_s, u"abc"_s},
-        {Kind::Sequence, u"sequenceAlphabetic"_s, "alphaNumericAlphabeticStartWith", u"123"_s, u"a"_s},
-        {Kind::Sequence, u"sequenceIncrement"_s, "alphaNumericIncrementBy", u" 0x"_s, u"1"_s},
-        {Kind::Sequence, u"sequenceNumeric"_s, "alphaNumericNumericStartWith", u"0"_s, u"0"_s},
-        {Kind::Sequence, {}, "alphaNumericPaddingMask", u"ID-00"_s, u"ID-00"_s},
+        { Kind::Sequence, u"sequenceAlphabetic"_s, "alphaNumericAlphabeticStartWith", u"AB1c"_s, u"abc"_s },
+        { Kind::Sequence, u"sequenceAlphabetic"_s, "alphaNumericAlphabeticStartWith", u"123"_s, u"a"_s },
+        { Kind::Sequence, u"sequenceIncrement"_s, "alphaNumericIncrementBy", u" 0x"_s, u"1"_s },
+        { Kind::Sequence, u"sequenceNumeric"_s, "alphaNumericNumericStartWith", u"0"_s, u"0"_s },
+        { Kind::Sequence, {}, "alphaNumericPaddingMask", u"ID-00"_s, u"ID-00"_s },
         // A slash is turned into a colon by the action, not by the field.
-        {Kind::InsertDelete, {}, "insertDeleteInsert", u"a/b"_s, u"a/b"_s},
-        {Kind::InsertDelete, u"insertPlace2"_s, "insertDeleteAtCharacterPositions", u"x0"_s, u"1"_s},
-        {Kind::InsertDelete, u"deleteMode"_s, "insertDeleteNumberOfCharacters", u"12"_s, u"12"_s},
-        {Kind::ReplaceRemove, {}, "replaceRemoveThis", u"-"_s, u"-"_s},
-        {Kind::ReplaceRemove, {}, "replaceRemoveStartFromCharacter", u"0"_s, u"1"_s},
-        {Kind::ReplaceRemove, {}, "replaceRemoveStartOnOccurrence", u"3"_s, u"3"_s},
-        {Kind::General, u"generalOption8"_s, "generalRemoveAfterString", u"a/b"_s, u"a/b"_s},
-        {Kind::General, u"generalOption8"_s, "generalRemoveAfterStringOccurrence", u"x2"_s, u"2"_s},
+        { Kind::InsertDelete, {}, "insertDeleteInsert", u"a/b"_s, u"a/b"_s },
+        { Kind::InsertDelete, u"insertPlace2"_s, "insertDeleteAtCharacterPositions", u"x0"_s, u"1"_s },
+        { Kind::InsertDelete, u"deleteMode"_s, "insertDeleteNumberOfCharacters", u"12"_s, u"12"_s },
+        { Kind::ReplaceRemove, {}, "replaceRemoveThis", u"-"_s, u"-"_s },
+        { Kind::ReplaceRemove, {}, "replaceRemoveStartFromCharacter", u"0"_s, u"1"_s },
+        { Kind::ReplaceRemove, {}, "replaceRemoveStartOnOccurrence", u"3"_s, u"3"_s },
+        { Kind::General, u"generalOption8"_s, "generalRemoveAfterString", u"a/b"_s, u"a/b"_s },
+        { Kind::General, u"generalOption8"_s, "generalRemoveAfterStringOccurrence", u"x2"_s, u"2"_s },
     };
     for (const TypingRow& row : rows) {
         show(row.kind);
         if (!row.choice.isEmpty())
             click(row.choice);
         typeInto(row.key, row.typed);
-        EXPECT_EQ(settings.property(row.key).toString(), row.stored) << row.key << " " << row.typed.toStdString();
+        EXPECT_EQ(settings.property(row.key).toString(), row.stored)
+            << row.key << " " << row.typed.toStdString();
     }
 }
 
@@ -283,14 +299,15 @@ struct ChoosingRow {
 TEST_F(ActionTabTest, ChoosingAnItemOrTickingSetsTheOption)
 {
     const ChoosingRow rows[] = {
-        {Kind::InsertDelete, u"insertPlace2"_s, "insertDeleteInsertAtPostionDirection", 1, 1},
-        {Kind::InsertDelete, u"deleteMode"_s, "isInsertDeleteDeleteFromBackWard", 1, true},
-        {Kind::InsertDelete, u"deleteMode"_s, "isInsertDeleteDeleteFromBackWard", 0, false},
-        {Kind::ReplaceRemove, {}, "replaceRemovePositionDirection", 1, 1},
-        {Kind::General, u"generalOption0"_s, "generalFileNameCase", 1, 2},
-        {Kind::General, u"generalOption0"_s, "generalFileNameCase", 2, 3},
-        {Kind::ReplaceRemove, u"isReplaceRemoveCaseSensitive"_s, "isReplaceRemoveCaseSensitive", -1, true},
-        {Kind::Sequence, u"isAlphaNumericResetSequenceOnEachFolder"_s, "isAlphaNumericResetSequenceOnEachFolder", -1, true},
+        { Kind::InsertDelete, u"insertPlace2"_s, "insertDeleteInsertAtPostionDirection", 1, 1 },
+        { Kind::InsertDelete, u"deleteMode"_s, "isInsertDeleteDeleteFromBackWard", 1, true },
+        { Kind::InsertDelete, u"deleteMode"_s, "isInsertDeleteDeleteFromBackWard", 0, false },
+        { Kind::ReplaceRemove, {}, "replaceRemovePositionDirection", 1, 1 },
+        { Kind::General, u"generalOption0"_s, "generalFileNameCase", 1, 2 },
+        { Kind::General, u"generalOption0"_s, "generalFileNameCase", 2, 3 },
+        { Kind::ReplaceRemove, u"isReplaceRemoveCaseSensitive"_s, "isReplaceRemoveCaseSensitive", -1, true },
+        { Kind::Sequence, u"isAlphaNumericResetSequenceOnEachFolder"_s,
+            "isAlphaNumericResetSequenceOnEachFolder", -1, true },
     };
     for (const ChoosingRow& row : rows) {
         show(row.kind);
@@ -314,51 +331,51 @@ struct RefreshRow {
 TEST_F(ActionTabTest, ChangesOfTheSettingsShowInTheInputs)
 {
     const RefreshRow rows[] = {
-        {Kind::Sequence,
+        { Kind::Sequence,
             [](Settings& s) {
                 s.chooseNumericOrAlphabetic(1);
                 s.setAlphaNumericAlphabeticStartWith(u"xy"_s);
                 s.setAlphaNumericIncrementBy(u"0"_s);
                 s.setIsAlphaNumericSufix(true);
             },
-            {{"alphaNumericAlphabeticStartWith", u"xy"_s}, {"alphaNumericIncrementBy", u"0"_s},
-                {"isAlphaNumericSufix", true}},
-            u"sequenceAlphabetic"_s},
+            { { "alphaNumericAlphabeticStartWith", u"xy"_s }, { "alphaNumericIncrementBy", u"0"_s },
+                { "isAlphaNumericSufix", true } },
+            u"sequenceAlphabetic"_s },
         // The action counts down when both directions are set, and the tab says so.
-        {Kind::Sequence,
+        { Kind::Sequence,
             [](Settings& s) {
                 s.chooseIncrementOrDecrement(1);
                 s.setIsAlphaNumericIncrement(true);
             },
-            {}, u"sequenceDecrement"_s},
-        {Kind::InsertDelete,
+            {}, u"sequenceDecrement"_s },
+        { Kind::InsertDelete,
             [](Settings& s) {
                 s.chooseInsertPosition(2);
                 s.setInsertDeleteAtCharacterPositions(u"7"_s);
                 s.setInsertDeleteInsertAtPostionDirection(1);
                 s.setIsInsertDeleteDeleteFromBackWard(true);
             },
-            {{"insertDeleteAtCharacterPositions", u"7"_s}, {"insertDeleteInsertAtPostionDirection", 1},
-                {"isInsertDeleteDeleteFromBackWard", 1}},
-            u"insertPlace2"_s},
-        {Kind::ReplaceRemove,
+            { { "insertDeleteAtCharacterPositions", u"7"_s }, { "insertDeleteInsertAtPostionDirection", 1 },
+                { "isInsertDeleteDeleteFromBackWard", 1 } },
+            u"insertPlace2"_s },
+        { Kind::ReplaceRemove,
             [](Settings& s) {
                 s.chooseReplaceRemoveMode(1);
                 s.setReplaceRemoveThis(u"draft "_s);
                 s.setIsReplaceRemoveCaseSensitive(true);
                 s.setReplaceRemoveOccuranceCount(u"0"_s);
             },
-            {{"replaceRemoveThis", u"draft "_s}, {"isReplaceRemoveCaseSensitive", true},
-                {"replaceRemoveOccuranceCount", u"0"_s}},
-            u"removeMode"_s},
+            { { "replaceRemoveThis", u"draft "_s }, { "isReplaceRemoveCaseSensitive", true },
+                { "replaceRemoveOccuranceCount", u"0"_s } },
+            u"removeMode"_s },
         // A code the chooser does not offer must not pass for one it does.
-        {Kind::General,
+        { Kind::General,
             [](Settings& s) {
                 s.chooseGeneralOption(10);
                 s.setGeneralFilenameMask(u"0000"_s);
                 s.setGeneralFileNameCase(0);
             },
-            {{"generalFilenameMask", u"0000"_s}, {"generalFileNameCase", -1}}, u"generalOption10"_s},
+            { { "generalFilenameMask", u"0000"_s }, { "generalFileNameCase", -1 } }, u"generalOption10"_s },
     };
     for (const RefreshRow& row : rows) {
         show(row.kind);
@@ -374,7 +391,7 @@ TEST_F(ActionTabTest, ChangesOfTheSettingsShowInTheInputs)
     // A profile with no mode set runs no action; no button claims otherwise.
     show(Kind::ReplaceRemove);
     settings.setIsReplaceRemoveReplace(false);
-    for (const char* mode : {"replaceMode", "removeMode", "removeCharactersMode"})
+    for (const char* mode : { "replaceMode", "removeMode", "removeCharactersMode" })
         EXPECT_FALSE(button(QString::fromLatin1(mode))->isChecked()) << mode;
 }
 
@@ -407,20 +424,27 @@ TEST_F(ActionTabTest, TheFindFieldSaysWhatItHolds)
 TEST_F(ActionTabTest, EveryInputIsFoundByItsOptionAndExplained)
 {
     const std::pair<Kind, QList<const char*>> inputs[] = {
-        {Kind::Sequence, {"alphaNumericNumericStartWith", "alphaNumericAlphabeticStartWith", "alphaNumericIncrementBy",
-            "alphaNumericDecrementBy", "isAlphaNumericResetSequenceOnEachFolder", "isAlphaNumericPrefix",
-            "isAlphaNumericSufix", "isAlphaNumericSeperator", "alphaNumericSeperator", "alphaNumericPaddingMask"}},
-        {Kind::InsertDelete, {"insertDeleteInsert", "insertDeleteAtCharacterPositions", "insertDeleteInsertAtPostionDirection",
-            "insertDeleteInsertAtBeforeText", "insertDeleteInsertAtBeforeOccurrence", "insertDeleteInsertAtAfterText",
-            "insertDeleteInsertAtAfterOccurrence", "insertDeleteNumberOfCharacters", "insertDeleteFromCharacterPosition",
-            "isInsertDeleteDeleteFromBackWard"}},
-        {Kind::ReplaceRemove, {"replaceRemoveThis", "replaceRemoveWith", "isReplaceRemoveCaseSensitive",
-            "replaceRemoveStartFromCharacter", "replaceRemovePositionDirection", "isReplaceRemoveAllOccurrence",
-            "replaceRemoveStartOnOccurrence", "replaceRemoveOccuranceCount"}},
-        {Kind::General, {"generalFileNameCase", "generalExtensionCase", "generalChangeExtension", "generalSwapSeperator",
-            "generalSwapPosition", "generalRemoveAfterString", "generalRemoveAfterStringOccurrence",
-            "generalRemoveFromString", "generalRemoveFromStringOccurrence", "generalFilenameMask",
-            "generalConvertWindowsCompatibleString"}},
+        { Kind::Sequence,
+            { "alphaNumericNumericStartWith", "alphaNumericAlphabeticStartWith", "alphaNumericIncrementBy",
+                "alphaNumericDecrementBy", "isAlphaNumericResetSequenceOnEachFolder", "isAlphaNumericPrefix",
+                "isAlphaNumericSufix", "isAlphaNumericSeperator", "alphaNumericSeperator",
+                "alphaNumericPaddingMask" } },
+        { Kind::InsertDelete,
+            { "insertDeleteInsert", "insertDeleteAtCharacterPositions",
+                "insertDeleteInsertAtPostionDirection", "insertDeleteInsertAtBeforeText",
+                "insertDeleteInsertAtBeforeOccurrence", "insertDeleteInsertAtAfterText",
+                "insertDeleteInsertAtAfterOccurrence", "insertDeleteNumberOfCharacters",
+                "insertDeleteFromCharacterPosition", "isInsertDeleteDeleteFromBackWard" } },
+        { Kind::ReplaceRemove,
+            { "replaceRemoveThis", "replaceRemoveWith", "isReplaceRemoveCaseSensitive",
+                "replaceRemoveStartFromCharacter", "replaceRemovePositionDirection",
+                "isReplaceRemoveAllOccurrence", "replaceRemoveStartOnOccurrence",
+                "replaceRemoveOccuranceCount" } },
+        { Kind::General,
+            { "generalFileNameCase", "generalExtensionCase", "generalChangeExtension", "generalSwapSeperator",
+                "generalSwapPosition", "generalRemoveAfterString", "generalRemoveAfterStringOccurrence",
+                "generalRemoveFromString", "generalRemoveFromStringOccurrence", "generalFilenameMask",
+                "generalConvertWindowsCompatibleString" } },
     };
     for (const auto& [kind, keys] : inputs) {
         show(kind);
@@ -433,13 +457,14 @@ TEST_F(ActionTabTest, EveryInputIsFoundByItsOptionAndExplained)
         }
         for (QAbstractButton* radio : tab->findChildren<QAbstractButton*>())
             EXPECT_FALSE(radio->toolTip().isEmpty()) << radio->objectName().toStdString();
-        EXPECT_EQ(tab->fieldForOption(kind == Kind::ReplaceRemove ? u"generalFilenameMask"_s : u"replaceRemoveThis"_s),
+        EXPECT_EQ(tab->fieldForOption(
+                      kind == Kind::ReplaceRemove ? u"generalFilenameMask"_s : u"replaceRemoveThis"_s),
             nullptr);
     }
     const std::tuple<Kind, const char*, QString> names[] = {
-        {Kind::Sequence, "alphaNumericNumericStartWith", u"sequenceNumeric"_s},
-        {Kind::InsertDelete, "insertDeleteInsertAtBeforeText", u"insertPlace3"_s},
-        {Kind::General, "generalRemoveAfterString", u"generalOption8"_s},
+        { Kind::Sequence, "alphaNumericNumericStartWith", u"sequenceNumeric"_s },
+        { Kind::InsertDelete, "insertDeleteInsertAtBeforeText", u"insertPlace3"_s },
+        { Kind::General, "generalRemoveAfterString", u"generalOption8"_s },
     };
     for (const auto& [kind, key, radio] : names) {
         show(kind);
@@ -475,7 +500,7 @@ protected:
     }
 
     Settings settings;
-    ActionTabs tabWidget{settings};
+    ActionTabs tabWidget { settings };
     GeneralTab* general = new GeneralTab(settings);
     OneFieldTab* replace = new OneFieldTab;
 };

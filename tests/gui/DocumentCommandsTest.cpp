@@ -10,9 +10,10 @@ namespace {
 
 QByteArray ruleFile(const char* version, const char* ruleName)
 {
-    return QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                      "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
-                      "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n<plist version=\"1.0\" appversion=\"")
+    return QByteArray(
+               "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+               "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+               "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n<plist version=\"1.0\" appversion=\"")
         + version + "\"><array><dict><key>rule</key><string>" + ruleName
         + "</string><key>isActive</key><string>1</string></dict></array></plist>\n";
 }
@@ -32,7 +33,7 @@ protected:
     TempTree tree;
     TavrinAppController controller;
     QWidget window;
-    DocumentCommands commands{&controller.session(), &window};
+    DocumentCommands commands { &controller.session(), &window };
     ScriptedPrompter prompter;
 };
 
@@ -88,9 +89,10 @@ TEST_F(DocumentCommandsTest, AProfileOfAnotherMajorVersionIsRefusedWithItsName)
     commands.openProfileDocument(path);
     ASSERT_EQ(prompter.alerts.size(), 1);
     EXPECT_EQ(prompter.alerts.first().text(),
-        localized("LOADPROFILETITLE") + QLatin1Char('|') + localized("PROFILEINCOMPATIBLE").arg(QStringLiteral("Old.tnprofile")));
+        localized("LOADPROFILETITLE") + QLatin1Char('|')
+            + localized("PROFILEINCOMPATIBLE").arg(QStringLiteral("Old.tnprofile")));
     EXPECT_TRUE(controller.settings().replaceRemoveThis().isEmpty());
     EXPECT_TRUE(controller.session().currProfileFile().isEmpty());
 }
 
-}  // namespace
+} // namespace

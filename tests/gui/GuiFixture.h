@@ -69,7 +69,7 @@ public:
 
     void alert(QWidget*, Severity severity, const PromptText& text) override
     {
-        alerts.append({severity, text.title, text.message});
+        alerts.append({ severity, text.title, text.message });
         if (onAlert)
             onAlert();
     }
@@ -168,7 +168,8 @@ protected:
 
     bool applyAndWait(const RenameController::ContinueWithoutLogQuestion& question = nullptr)
     {
-        return runAndWait(&rename(), &RenameController::applyFinished, [&] { return rename().apply(question); });
+        return runAndWait(
+            &rename(), &RenameController::applyFinished, [&] { return rename().apply(question); });
     }
 
     QStringList listedNames() const
@@ -216,7 +217,7 @@ protected:
         return window.tableModel()->index(row, FileTableModel::NewNameColumn).data().toString();
     }
 
-    MainWindow window{&controller};
+    MainWindow window { &controller };
     ScriptedPrompter* prompter = nullptr;
 };
 

@@ -59,8 +59,8 @@ protected:
     void clickHeader(int section)
     {
         QHeaderView* header = window.tableView()->horizontalHeader();
-        const QPoint middle(
-            header->sectionViewportPosition(section) + header->sectionSize(section) / 2, header->height() / 2);
+        const QPoint middle(header->sectionViewportPosition(section) + header->sectionSize(section) / 2,
+            header->height() / 2);
         QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
     }
 };
@@ -74,7 +74,7 @@ TEST_F(MainWindowTest, AnAddedFolderFillsTheTableAndTheStatusLine)
     list().setIncludeSubFolders(true);
 
     ASSERT_TRUE(runAndWait(&list(), &ListController::addFinished, [&] {
-        window.addPaths({tree.path(u"top"_s)});
+        window.addPaths({ tree.path(u"top"_s) });
         EXPECT_FALSE(window.tableView()->isEnabled()) << "the list is locked while a worker fills it";
         EXPECT_TRUE(action("cancelAction")->isEnabled());
         EXPECT_FALSE(action("removeAction")->isEnabled());
@@ -103,11 +103,13 @@ struct ModeRow {
 // and which one Ctrl+O triggers.
 TEST_F(MainWindowTest, TheModeChoosesTheAddCommandsAndAChangeEmptiesTheList)
 {
-    addFiles({u"a.txt"_s});
+    addFiles({ u"a.txt"_s });
     const ModeRow rows[] = {
-        {"filesModeButton", true, true, true, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O), u"Files listed: 1"_s},
-        {"foldersModeButton", false, false, true, QKeySequence::Open, u"Folders listed: 0"_s},
-        {"filesModeButton", false, true, false, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O), u"Files listed: 0"_s},
+        { "filesModeButton", true, true, true, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O),
+            u"Files listed: 1"_s },
+        { "foldersModeButton", false, false, true, QKeySequence::Open, u"Folders listed: 0"_s },
+        { "filesModeButton", false, true, false, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O),
+            u"Files listed: 0"_s },
     };
     for (const ModeRow& row : rows) {
         QTest::mouseClick(child<QRadioButton>(QString::fromLatin1(row.modeButton)), Qt::LeftButton);
@@ -117,7 +119,8 @@ TEST_F(MainWindowTest, TheModeChoosesTheAddCommandsAndAChangeEmptiesTheList)
         EXPECT_EQ(action("addFilesAction")->isVisible(), row.filesShown) << row.modeButton;
         EXPECT_EQ(action("addFoldersAction")->isVisible(), row.foldersShown) << row.modeButton;
         EXPECT_EQ(action("addFoldersAction")->shortcut(), row.foldersShortcut) << row.modeButton;
-        EXPECT_TRUE(action("addFoldersAction")->toolTip().contains(row.foldersShortcut.toString())) << row.modeButton;
+        EXPECT_TRUE(action("addFoldersAction")->toolTip().contains(row.foldersShortcut.toString()))
+            << row.modeButton;
         EXPECT_EQ(label("countLabel"), row.countText);
     }
     EXPECT_EQ(action("addFilesAction")->shortcut(), QKeySequence(QKeySequence::Open));
@@ -125,7 +128,7 @@ TEST_F(MainWindowTest, TheModeChoosesTheAddCommandsAndAChangeEmptiesTheList)
 
 TEST_F(MainWindowTest, RemoveWithNothingSelectedPointsAtItsButtonElseTakesTheRows)
 {
-    addFiles({u"a.txt"_s, u"b.txt"_s, u"c.txt"_s, u"d.txt"_s});
+    addFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s, u"d.txt"_s });
     auto* attached = child<AttachedWindow>(u"attachedWindow"_s);
 
     action("removeAction")->trigger();
@@ -134,10 +137,10 @@ TEST_F(MainWindowTest, RemoveWithNothingSelectedPointsAtItsButtonElseTakesTheRow
     EXPECT_EQ(attached->anchor(), child<QToolBar>(u"mainToolBar"_s)->widgetForAction(action("removeAction")));
     EXPECT_EQ(window.tableModel()->rowCount(), 4) << "nothing was removed";
 
-    selectRows({1, 2});
+    selectRows({ 1, 2 });
     action("removeAction")->trigger();
-    EXPECT_EQ(listedNames(), QStringList({u"a.txt"_s, u"d.txt"_s}));
-    EXPECT_EQ(selectedRows(), QList<int>({1})) << "the row that took the place of the first removed one";
+    EXPECT_EQ(listedNames(), QStringList({ u"a.txt"_s, u"d.txt"_s }));
+    EXPECT_EQ(selectedRows(), QList<int>({ 1 })) << "the row that took the place of the first removed one";
     EXPECT_FALSE(attached->isVisible());
     EXPECT_EQ(label("countLabel"), u"Files listed: 2"_s);
 }
@@ -150,9 +153,13 @@ struct MoveRow {
 
 TEST_F(MainWindowTest, MoveCommandsFollowTheSelectionAndTheSelectionFollowsTheRows)
 {
-    addFiles({u"a.txt"_s, u"b.txt"_s, u"c.txt"_s, u"d.txt"_s});
+    addFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s, u"d.txt"_s });
     const MoveRow rows[] = {
-        {{}, false, false}, {{0}, false, true}, {{3}, true, false}, {{1, 2}, true, true}, {{0, 3}, false, false},
+        { {}, false, false },
+        { { 0 }, false, true },
+        { { 3 }, true, false },
+        { { 1, 2 }, true, true },
+        { { 0, 3 }, false, false },
     };
     for (const MoveRow& row : rows) {
         selectRows(row.selection);
@@ -161,11 +168,11 @@ TEST_F(MainWindowTest, MoveCommandsFollowTheSelectionAndTheSelectionFollowsTheRo
     }
 
     clickHeader(FileTableModel::NameColumn);
-    selectRows({0, 1});
+    selectRows({ 0, 1 });
     action("moveDownAction")->trigger();
     action("moveDownAction")->trigger();
-    EXPECT_EQ(listedNames(), QStringList({u"c.txt"_s, u"d.txt"_s, u"a.txt"_s, u"b.txt"_s}));
-    EXPECT_EQ(selectedRows(), QList<int>({2, 3}));
+    EXPECT_EQ(listedNames(), QStringList({ u"c.txt"_s, u"d.txt"_s, u"a.txt"_s, u"b.txt"_s }));
+    EXPECT_EQ(selectedRows(), QList<int>({ 2, 3 }));
     EXPECT_FALSE(action("moveDownAction")->isEnabled());
     EXPECT_EQ(window.tableView()->horizontalHeader()->sortIndicatorSection(), -1)
         << "the list is no longer in the order the header shows";
@@ -173,32 +180,32 @@ TEST_F(MainWindowTest, MoveCommandsFollowTheSelectionAndTheSelectionFollowsTheRo
 
 TEST_F(MainWindowTest, AHeaderClickSortsNumericallyAndASecondClickReverses)
 {
-    addFiles({u"a10.txt"_s, u"b2.txt"_s, u"A9.txt"_s, u"a1.txt"_s});
+    addFiles({ u"a10.txt"_s, u"b2.txt"_s, u"A9.txt"_s, u"a1.txt"_s });
     QHeaderView* header = window.tableView()->horizontalHeader();
 
     clickHeader(FileTableModel::NameColumn);
-    EXPECT_EQ(listedNames(), QStringList({u"a1.txt"_s, u"A9.txt"_s, u"a10.txt"_s, u"b2.txt"_s}));
+    EXPECT_EQ(listedNames(), QStringList({ u"a1.txt"_s, u"A9.txt"_s, u"a10.txt"_s, u"b2.txt"_s }));
     EXPECT_EQ(header->sortIndicatorOrder(), Qt::AscendingOrder);
     clickHeader(FileTableModel::NameColumn);
-    EXPECT_EQ(listedNames(), QStringList({u"b2.txt"_s, u"a10.txt"_s, u"A9.txt"_s, u"a1.txt"_s}));
+    EXPECT_EQ(listedNames(), QStringList({ u"b2.txt"_s, u"a10.txt"_s, u"A9.txt"_s, u"a1.txt"_s }));
 
     clickHeader(FileTableModel::IconColumn);
-    EXPECT_EQ(listedNames(), QStringList({u"b2.txt"_s, u"a10.txt"_s, u"A9.txt"_s, u"a1.txt"_s}));
+    EXPECT_EQ(listedNames(), QStringList({ u"b2.txt"_s, u"a10.txt"_s, u"A9.txt"_s, u"a1.txt"_s }));
     EXPECT_EQ(header->sortIndicatorSection(), FileTableModel::NameColumn) << "the icon column does not sort";
 }
 
 TEST_F(MainWindowTest, LocalFilesDroppedAreAddedInTheCurrentModeAndOtherDragsRefused)
 {
     QMimeData local;
-    local.setUrls({QUrl::fromLocalFile(tree.file(u"drop/a.txt"_s)), QUrl::fromLocalFile(tree.folder(u"drop/inner"_s)),
-        QUrl(u"https://example.org/x"_s)});
+    local.setUrls({ QUrl::fromLocalFile(tree.file(u"drop/a.txt"_s)),
+        QUrl::fromLocalFile(tree.folder(u"drop/inner"_s)), QUrl(u"https://example.org/x"_s) });
     QMimeData remote;
-    remote.setUrls({QUrl(u"https://example.org/a.txt"_s)});
+    remote.setUrls({ QUrl(u"https://example.org/a.txt"_s) });
     QMimeData plainText;
     plainText.setText(u"/etc/hostname"_s);
     QWidget* viewport = window.tableView()->viewport();
     const QPoint middle = viewport->rect().center();
-    for (QMimeData* refused : {&remote, &plainText}) {
+    for (QMimeData* refused : { &remote, &plainText }) {
         QDragEnterEvent enter(middle, Qt::CopyAction, refused, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(viewport, &enter);
         EXPECT_FALSE(enter.isAccepted());
@@ -212,26 +219,26 @@ TEST_F(MainWindowTest, LocalFilesDroppedAreAddedInTheCurrentModeAndOtherDragsRef
         QApplication::sendEvent(viewport, &drop);
         return drop.isAccepted();
     }));
-    EXPECT_EQ(listedNames(), QStringList({u"a.txt"_s})) << "a folder in file mode is not descended into";
+    EXPECT_EQ(listedNames(), QStringList({ u"a.txt"_s })) << "a folder in file mode is not descended into";
 }
 
 TEST_F(MainWindowTest, SkippedNamesAreToldOnceInTheStatusLine)
 {
-    const RawFileRemover remover{tree.rawFile(u"raw"_s, QByteArray("bad\xfe.txt"))};
+    const RawFileRemover remover { tree.rawFile(u"raw"_s, QByteArray("bad\xfe.txt")) };
     tree.file(u"raw/good.txt"_s);
     list().setIncludeSubFolders(true);
     ASSERT_TRUE(runAndWait(&list(), &ListController::addFinished, [&] {
-        window.addPaths({tree.path(u"raw"_s)});
+        window.addPaths({ tree.path(u"raw"_s) });
         return true;
     }));
 
     auto* skipped = child<QLabel>(u"skippedLabel"_s);
-    EXPECT_EQ(listedNames(), QStringList({u"good.txt"_s}));
+    EXPECT_EQ(listedNames(), QStringList({ u"good.txt"_s }));
     EXPECT_TRUE(skipped->isVisible());
     EXPECT_EQ(skipped->text(), u"1 items skipped: their names are not valid UTF-8"_s);
     EXPECT_TRUE(skipped->toolTip().startsWith(tree.path(u"raw/bad"_s)));
 
-    ASSERT_TRUE(addAndWait({tree.path(u"raw/good.txt"_s)}));
+    ASSERT_TRUE(addAndWait({ tree.path(u"raw/good.txt"_s) }));
     EXPECT_FALSE(skipped->isVisible()) << "a clean scan tells nothing";
     action("clearAction")->trigger();
     EXPECT_TRUE(label("timeLabel").isEmpty());
@@ -246,7 +253,8 @@ struct ChooserRow {
 TEST_F(MainWindowTest, TheChoosersTakeSeveralItemsAndAddThem)
 {
     list().setIncludeSubFolders(true);
-    const ChooserRow rows[] = {{"addFilesAction", QFileDialog::ExistingFiles, 0}, {"addFoldersAction", QFileDialog::Directory, 2}};
+    const ChooserRow rows[] = { { "addFilesAction", QFileDialog::ExistingFiles, 0 },
+        { "addFoldersAction", QFileDialog::Directory, 2 } };
     for (const ChooserRow& row : rows) {
         action(row.action)->trigger();
         auto* dialog = window.findChild<QFileDialog*>();
@@ -267,10 +275,10 @@ TEST_F(MainWindowTest, TheChoosersTakeSeveralItemsAndAddThem)
     action("addFilesAction")->trigger();
     auto* dialog = window.findChild<QFileDialog*>();
     ASSERT_TRUE(runAndWait(&list(), &ListController::addFinished, [&] {
-        emit dialog->filesSelected({tree.file(u"chosen/a.txt"_s), tree.file(u"chosen/b.txt"_s)});
+        emit dialog->filesSelected({ tree.file(u"chosen/a.txt"_s), tree.file(u"chosen/b.txt"_s) });
         return true;
     }));
-    EXPECT_EQ(listedNames(), QStringList({u"a.txt"_s, u"b.txt"_s}));
+    EXPECT_EQ(listedNames(), QStringList({ u"a.txt"_s, u"b.txt"_s }));
     dialog->reject();
 }
 
@@ -278,15 +286,15 @@ TEST_F(MainWindowTest, TheWindowIsTitledAndEveryCommandHasAShortcutAndATooltip)
 {
     EXPECT_EQ(window.windowTitle(), localized("DEFAULT"));
     EXPECT_FALSE(window.windowIcon().isNull());
-    for (const char* name : {"addFilesAction", "addFoldersAction", "removeAction", "clearAction", "moveUpAction",
-             "moveDownAction", "cancelAction", "undoBatchAction", "livePreviewAction", "pasteItemsAction",
-             "selectAllAction", "saveProfileAction", "preferencesAction", "helpAction", "quitAction",
-             "previewAction", "applyAction"}) {
+    for (const char* name : { "addFilesAction", "addFoldersAction", "removeAction", "clearAction",
+             "moveUpAction", "moveDownAction", "cancelAction", "undoBatchAction", "livePreviewAction",
+             "pasteItemsAction", "selectAllAction", "saveProfileAction", "preferencesAction", "helpAction",
+             "quitAction", "previewAction", "applyAction" }) {
         EXPECT_FALSE(action(name)->toolTip().isEmpty()) << name;
         EXPECT_FALSE(action(name)->shortcut().isEmpty()) << name;
     }
     EXPECT_EQ(action("previewAction")->shortcuts(),
-        QList<QKeySequence>({QKeySequence(Qt::Key_F5), QKeySequence(Qt::CTRL | Qt::Key_R)}));
+        QList<QKeySequence>({ QKeySequence(Qt::Key_F5), QKeySequence(Qt::CTRL | Qt::Key_R) }));
     EXPECT_TRUE(action("previewAction")->toolTip().contains(u"F5"_s));
     EXPECT_EQ(action("applyAction")->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Return));
 }

@@ -72,7 +72,8 @@ const QuestionRow kQuestions[] = {
         "CONTINUE", "ABORT" },
     { "yes/no",
         [](MessageBoxPrompter& p) {
-            return p.askYesNo(nullptr, { localized("ITEMRENAMINGTITLE"), localized("UNDOFILESFOLDERSDELETECONFIRM") });
+            return p.askYesNo(
+                nullptr, { localized("ITEMRENAMINGTITLE"), localized("UNDOFILESFOLDERSDELETECONFIRM") });
         },
         "UNDOFILESFOLDERSDELETECONFIRM", "YES", "NO" },
 };
@@ -117,7 +118,8 @@ TEST(MessageBoxPrompter, AnAlertHasOneOkButtonAndTheIconOfItsSeverity)
         MessageBoxPrompter prompter;
         Shown shown;
         answerNextBox(localized("OK"), shown);
-        prompter.alert(nullptr, severity, { QStringLiteral("Missing Input"), QStringLiteral("Please enter a valid value.") });
+        prompter.alert(nullptr, severity,
+            { QStringLiteral("Missing Input"), QStringLiteral("Please enter a valid value.") });
         EXPECT_EQ(shown.title, QStringLiteral("Missing Input"));
         EXPECT_EQ(shown.text, QStringLiteral("Please enter a valid value."));
         EXPECT_EQ(shown.icon, icon);

@@ -47,7 +47,8 @@ protected:
         ActionTabs* tabs = window.renamePanel()->tabs();
         ActionTab* page = tabs->pageForTab(tabNumber);
         EXPECT_NE(page, nullptr) << tabNumber;
-        QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(tabs->indexOf(page)).center());
+        QTest::mouseClick(
+            tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(tabs->indexOf(page)).center());
         EXPECT_EQ(settings().selectedTab(), tabNumber);
         return page;
     }
@@ -71,7 +72,7 @@ protected:
     void chooseUpperCaseOnTheTab()
     {
         ActionTab* page = showTab(tabs::General);
-        perform(page, {"generalOption0", QString()});
+        perform(page, { "generalOption0", QString() });
         auto* chooser = qobject_cast<QComboBox*>(page->fieldForOption(u"generalFileNameCase"_s));
         chooser->setFocus();
         QTest::keyClick(chooser, Qt::Key_End);
@@ -87,7 +88,10 @@ protected:
         });
     }
 
-    bool previewAndWait() { return clickAndWait(u"previewActionButton"_s, &RenameController::previewFinished); }
+    bool previewAndWait()
+    {
+        return clickAndWait(u"previewActionButton"_s, &RenameController::previewFinished);
+    }
     bool applyAndWait() { return clickAndWait(u"applyActionButton"_s, &RenameController::applyFinished); }
 
     QStringList shownNewNames() const
@@ -109,13 +113,13 @@ protected:
 // from the sheet the window opens.
 TEST_F(RenameWindowTest, PreviewRenameAndUndoTheBatch)
 {
-    listFiles({u"beach day.jpg"_s, u"notes.txt"_s, u"README.md"_s});
+    listFiles({ u"beach day.jpg"_s, u"notes.txt"_s, u"README.md"_s });
     chooseUpperCaseOnTheTab();
     EXPECT_FALSE(applyAction()->isEnabled()) << "nothing to rename before a preview";
 
     ASSERT_TRUE(previewAndWait());
     EXPECT_EQ(shownNewNames(),
-        QStringList({u"BEACH DAY.jpg"_s, u"NOTES.txt"_s, QLatin1String(status::NoChanges)}));
+        QStringList({ u"BEACH DAY.jpg"_s, u"NOTES.txt"_s, QLatin1String(status::NoChanges) }));
     EXPECT_TRUE(applyAction()->isEnabled());
     EXPECT_TRUE(label(u"timeLabel"_s).startsWith(u"Preview time: "_s));
     EXPECT_TRUE(progressLine().isEmpty()) << "a preview whose actions succeeded leaves no message";
@@ -125,9 +129,10 @@ TEST_F(RenameWindowTest, PreviewRenameAndUndoTheBatch)
     ASSERT_TRUE(applyAndWait());
     EXPECT_EQ(prompter->confirmations, 1);
     EXPECT_EQ(prompter->logQuestions, 0) << "the log folder is writable";
-    EXPECT_EQ(listedNames(), QStringList({u"BEACH DAY.jpg"_s, u"NOTES.txt"_s, u"README.md"_s}));
-    EXPECT_EQ(shownNewNames(), QStringList({QLatin1String(status::RenamingOk), QLatin1String(status::RenamingOk),
-                                   QLatin1String(status::NoChanges)}));
+    EXPECT_EQ(listedNames(), QStringList({ u"BEACH DAY.jpg"_s, u"NOTES.txt"_s, u"README.md"_s }));
+    EXPECT_EQ(shownNewNames(),
+        QStringList({ QLatin1String(status::RenamingOk), QLatin1String(status::RenamingOk),
+            QLatin1String(status::NoChanges) }));
     EXPECT_NE(iconOf(1), plainIcon) << "the row wears a badge after the rename";
     EXPECT_EQ(iconOf(1), ItemIconCache().icon(list().shownItems()[1]).pixmap(QSize(16, 16)).toImage());
     EXPECT_FALSE(applyAction()->isEnabled()) << "a second rename needs a new preview";
@@ -156,7 +161,7 @@ TEST_F(RenameWindowTest, PreviewRenameAndUndoTheBatch)
 
 TEST_F(RenameWindowTest, RenameAnsweredNoRenamesNothing)
 {
-    listFiles({u"a.txt"_s});
+    listFiles({ u"a.txt"_s });
     chooseUpperCase();
     ASSERT_TRUE(previewAndWait());
     prompter->confirmAnswer = false;
@@ -169,7 +174,7 @@ TEST_F(RenameWindowTest, RenameAnsweredNoRenamesNothing)
     EXPECT_FALSE(list().isExecuting());
     EXPECT_EQ(applied.count(), 0);
     EXPECT_TRUE(tree.exists(u"files/a.txt"_s));
-    EXPECT_EQ(shownNewNames(), QStringList({u"A.txt"_s}));
+    EXPECT_EQ(shownNewNames(), QStringList({ u"A.txt"_s }));
     EXPECT_TRUE(applyAction()->isEnabled()) << "the proposals are still there to apply";
 }
 
@@ -185,10 +190,10 @@ struct LogQuestionRow {
 TEST_F(RenameWindowTest, AnUnwritableLogFolderAsksWhetherToRenameWithoutALog)
 {
     const LogQuestionRow rows[] = {
-        {false, "a.txt", u"A.txt"_s, u"Files renamed: 0"_s, "RENAMINGABORTEDNOLOG"},
-        {true, "A.txt", QLatin1String(status::RenamingOk), u"Files renamed: 1"_s, "LOGNOTWRITTEN"},
+        { false, "a.txt", u"A.txt"_s, u"Files renamed: 0"_s, "RENAMINGABORTEDNOLOG" },
+        { true, "A.txt", QLatin1String(status::RenamingOk), u"Files renamed: 1"_s, "LOGNOTWRITTEN" },
     };
-    listFiles({u"a.txt"_s});
+    listFiles({ u"a.txt"_s });
     controller.session().setLogFolderPath(tree.file(u"blocker"_s) + u"/Logs"_s);
     chooseUpperCase();
     for (const LogQuestionRow& row : rows) {
@@ -226,17 +231,20 @@ struct TabRow {
 TEST_F(RenameWindowTest, EachTabPreviewsWhatItsInputsSay)
 {
     const TabRow rows[] = {
-        {tabs::ReplaceRemove, {u"a-b-c.txt"_s, u"x-y.jpg"_s},
-            {{"replaceRemoveThis", u"-"_s}, {"replaceRemoveWith", u"_"_s}, {"isReplaceRemoveAllOccurrence", {}}},
-            {u"a_b_c.txt"_s, u"x_y.jpg"_s}},
-        {tabs::InsertDelete, {u"a_b_c.txt"_s, u"one_two.md"_s},
-            {{"insertDeleteInsert", u"X"_s}, {"insertPlace4", {}}, {"insertDeleteInsertAtAfterText", u"_"_s},
-                {"insertDeleteInsertAtAfterOccurrence", u"2"_s}},
-            {u"a_b_Xc.txt"_s, QLatin1String(status::NoChanges)}},
-        {tabs::AlphaNumeric, {u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s},
-            {{"alphaNumericNumericStartWith", u"9"_s}, {"isAlphaNumericSufix", {}}, {"isAlphaNumericSeperator", {}},
-                {"alphaNumericSeperator", u"-"_s}, {"alphaNumericPaddingMask", u"00"_s}},
-            {u"a-09.jpg"_s, u"b-10.jpg"_s, u"c-11.jpg"_s}},
+        { tabs::ReplaceRemove, { u"a-b-c.txt"_s, u"x-y.jpg"_s },
+            { { "replaceRemoveThis", u"-"_s }, { "replaceRemoveWith", u"_"_s },
+                { "isReplaceRemoveAllOccurrence", {} } },
+            { u"a_b_c.txt"_s, u"x_y.jpg"_s } },
+        { tabs::InsertDelete, { u"a_b_c.txt"_s, u"one_two.md"_s },
+            { { "insertDeleteInsert", u"X"_s }, { "insertPlace4", {} },
+                { "insertDeleteInsertAtAfterText", u"_"_s },
+                { "insertDeleteInsertAtAfterOccurrence", u"2"_s } },
+            { u"a_b_Xc.txt"_s, QLatin1String(status::NoChanges) } },
+        { tabs::AlphaNumeric, { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s },
+            { { "alphaNumericNumericStartWith", u"9"_s }, { "isAlphaNumericSufix", {} },
+                { "isAlphaNumericSeperator", {} }, { "alphaNumericSeperator", u"-"_s },
+                { "alphaNumericPaddingMask", u"00"_s } },
+            { u"a-09.jpg"_s, u"b-10.jpg"_s, u"c-11.jpg"_s } },
     };
     for (const TabRow& row : rows) {
         list().clear();
@@ -262,13 +270,15 @@ struct MissingInput {
 TEST_F(RenameWindowTest, AMissingInputWarnsAndTakesTheFocusToItsField)
 {
     const MissingInput rows[] = {
-        {tabs::InsertDelete, {{"insertPlace0", {}}}, "insertDeleteInsert", "INSERTINVALIDINPUT", "ENTERVALIDVALUE"},
-        {tabs::InsertDelete, {{"insertPlace3", {}}, {"insertDeleteInsert", u"X"_s}}, "insertDeleteInsertAtBeforeText",
-            "INSERTTEXTATBEFORETEXT", "ENTERSOMETEXT"},
-        {tabs::ReplaceRemove, {}, "replaceRemoveThis", "REPLACEREMOVEINVALIDINPUT", "ENTERVALIDVALUE"},
-        {tabs::General, {{"generalOption8", {}}}, "generalRemoveAfterString", "GENERALINVALIDINPUT", "ENTERVALIDVALUE"},
+        { tabs::InsertDelete, { { "insertPlace0", {} } }, "insertDeleteInsert", "INSERTINVALIDINPUT",
+            "ENTERVALIDVALUE" },
+        { tabs::InsertDelete, { { "insertPlace3", {} }, { "insertDeleteInsert", u"X"_s } },
+            "insertDeleteInsertAtBeforeText", "INSERTTEXTATBEFORETEXT", "ENTERSOMETEXT" },
+        { tabs::ReplaceRemove, {}, "replaceRemoveThis", "REPLACEREMOVEINVALIDINPUT", "ENTERVALIDVALUE" },
+        { tabs::General, { { "generalOption8", {} } }, "generalRemoveAfterString", "GENERALINVALIDINPUT",
+            "ENTERVALIDVALUE" },
     };
-    listFiles({u"a_b.txt"_s});
+    listFiles({ u"a_b.txt"_s });
     for (const MissingInput& row : rows) {
         ActionTab* page = showTab(row.tab);
         for (const Step& step : row.steps)
@@ -279,9 +289,11 @@ TEST_F(RenameWindowTest, AMissingInputWarnsAndTakesTheFocusToItsField)
 
         QTest::keyClick(&window, Qt::Key_R, Qt::ControlModifier);
 
-        EXPECT_EQ(prompter->alertTexts(),
-            QStringList(localized(row.titleKey) + u'|' + localized(row.messageKey))) << row.focusKey;
-        EXPECT_EQ(QApplication::focusWidget(), page->fieldForOption(QString::fromLatin1(row.focusKey))) << row.focusKey;
+        EXPECT_EQ(
+            prompter->alertTexts(), QStringList(localized(row.titleKey) + u'|' + localized(row.messageKey)))
+            << row.focusKey;
+        EXPECT_EQ(QApplication::focusWidget(), page->fieldForOption(QString::fromLatin1(row.focusKey)))
+            << row.focusKey;
         EXPECT_EQ(executing.count(), 0) << "no preview was started";
     }
 }

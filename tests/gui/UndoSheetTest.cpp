@@ -58,10 +58,10 @@ protected:
     // Three logs; the newest first in time and in name, so either order the listing uses agrees.
     void writeThreeLogs()
     {
-        oldest = logOfRenames(u"Log 14-11-2026 08-00-00-1.xml"_s, {u"x"_s}, {u"X"_s});
-        middle = logOfRenames(u"Log 15-11-2026 09-05-07-2.xml"_s, {u"p"_s, u"q"_s}, {u"P"_s, u"Q"_s});
-        newest = logOfRenames(u"Log 16-11-2026 10-30-00-3.xml"_s, {u"a.txt"_s, u"b.txt"_s, u"c.txt"_s},
-            {u"A.txt"_s, u"B.txt"_s, u"C.txt"_s});
+        oldest = logOfRenames(u"Log 14-11-2026 08-00-00-1.xml"_s, { u"x"_s }, { u"X"_s });
+        middle = logOfRenames(u"Log 15-11-2026 09-05-07-2.xml"_s, { u"p"_s, u"q"_s }, { u"P"_s, u"Q"_s });
+        newest = logOfRenames(u"Log 16-11-2026 10-30-00-3.xml"_s, { u"a.txt"_s, u"b.txt"_s, u"c.txt"_s },
+            { u"A.txt"_s, u"B.txt"_s, u"C.txt"_s });
     }
 
     template <typename T> T* part(const char* name) const
@@ -73,7 +73,10 @@ protected:
 
     QString text(const char* labelName) const { return part<QLabel>(labelName)->text(); }
     QString cell(int row, int column) const { return sheet->model()->index(row, column).data().toString(); }
-    void click(const char* buttonName) const { QTest::mouseClick(part<QPushButton>(buttonName), Qt::LeftButton); }
+    void click(const char* buttonName) const
+    {
+        QTest::mouseClick(part<QPushButton>(buttonName), Qt::LeftButton);
+    }
     void selectRow(int row) const { sheet->table()->selectRow(row); }
     int selectedRow() const
     {
@@ -164,8 +167,7 @@ TEST_F(UndoSheetTest, UndoGivesTheNamesBackReportsAndMovesToTheNextLog)
     EXPECT_EQ(text("logStatusLabel"), u"Renamed items in the log: 2"_s);
     EXPECT_FALSE(sheet->isUndoing());
     EXPECT_TRUE(controller.status().lastActionTimeTaken().startsWith(u"Undo time: "_s));
-    EXPECT_EQ(
-        window.findChild<QLabel*>(u"timeLabel"_s)->text(), controller.status().lastActionTimeTaken());
+    EXPECT_EQ(window.findChild<QLabel*>(u"timeLabel"_s)->text(), controller.status().lastActionTimeTaken());
 }
 
 TEST_F(UndoSheetTest, UndoingTheLastRowSelectsTheRowAboveAndTheLastLogNothing)
@@ -236,8 +238,7 @@ TEST_F(UndoSheetTest, DeleteAnsweredNoKeepsTheLogAndYesRemovesIt)
 TEST_F(UndoSheetTest, AnIncompatibleLogFromDiskAlertsAndChangesNothing)
 {
     writeThreeLogs();
-    const QString foreign = writeLog(tree.path(u"elsewhere"_s),
-        u"Log 01-01-2020 00-00-00-1.xml"_s,
+    const QString foreign = writeLog(tree.path(u"elsewhere"_s), u"Log 01-01-2020 00-00-00-1.xml"_s,
         { entry(u"d/X"_s, u"d/Y"_s) }, u"2.4.1"_s);
     const QString notALog = tree.file(u"elsewhere/notes.xml"_s, "<notes/>");
     openSheet();
@@ -261,8 +262,8 @@ TEST_F(UndoSheetTest, ALogFromDiskIsCheckedThenUndone)
 {
     writeThreeLogs();
     tree.file(u"d/renamed"_s, "kept aside");
-    const QString aside = writeLog(tree.path(u"elsewhere"_s),
-        u"my batch.xml"_s, { entry(u"d/original"_s, u"d/renamed"_s) });
+    const QString aside
+        = writeLog(tree.path(u"elsewhere"_s), u"my batch.xml"_s, { entry(u"d/original"_s, u"d/renamed"_s) });
     openSheet();
     selectRow(0);
 
@@ -282,8 +283,7 @@ TEST_F(UndoSheetTest, ALogFromDiskIsCheckedThenUndone)
 
 TEST_F(UndoSheetTest, ALogWithoutEntriesAlertsAndUndoOnlyDeletesIt)
 {
-    const QString empty = writeLog(
-        tree.path(u"elsewhere"_s), u"Log 01-01-2026 00-00-00-0.xml"_s, {});
+    const QString empty = writeLog(tree.path(u"elsewhere"_s), u"Log 01-01-2026 00-00-00-0.xml"_s, {});
     openSheet();
 
     ASSERT_TRUE(openAndWait(empty));
@@ -353,8 +353,7 @@ TEST_F(UndoSheetTest, TheSheetStaysResponsiveThroughALongUndo)
     EXPECT_FALSE(part<QProgressBar>("undoBusyIndicator")->isVisible());
     EXPECT_TRUE(sheet->table()->isEnabled());
     ASSERT_EQ(prompter->alerts.size(), 1);
-    EXPECT_TRUE(
-        prompter->alerts.first().message.contains(u"Items given back their old names: 4000"_s));
+    EXPECT_TRUE(prompter->alerts.first().message.contains(u"Items given back their old names: 4000"_s));
 }
 
 } // namespace

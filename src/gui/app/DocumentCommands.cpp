@@ -54,7 +54,7 @@ void DocumentCommands::setFileChoosers(FileChooser openChooser, FileChooser save
 void DocumentCommands::openProfile()
 {
     const QString path = m_openChooser(
-        m_window, {localized("CHOOSEPROFILETITLE"), m_session->preferences().defaultProfileFolderPath});
+        m_window, { localized("CHOOSEPROFILETITLE"), m_session->preferences().defaultProfileFolderPath });
     if (!path.isEmpty())
         showProfileOutcome(m_session->setCurrentSettings(path));
 }
@@ -71,7 +71,7 @@ void DocumentCommands::saveProfile()
 void DocumentCommands::saveProfileAs()
 {
     const QString path = m_saveChooser(
-        m_window, {localized("SAVEASPROFILETITLE"), m_session->preferences().defaultProfileFolderPath});
+        m_window, { localized("SAVEASPROFILETITLE"), m_session->preferences().defaultProfileFolderPath });
     if (!path.isEmpty())
         saveProfileTo(path);
 }
@@ -80,7 +80,7 @@ void DocumentCommands::saveProfileTo(const QString& path)
 {
     QString error;
     if (!m_session->saveProfile(path, &error))
-        m_prompter->warn(m_window, {localized("PROFILETITLE"), localized("PROFILESAVEDFAILED").arg(error)});
+        m_prompter->warn(m_window, { localized("PROFILETITLE"), localized("PROFILESAVEDFAILED").arg(error) });
 }
 
 void DocumentCommands::loadDefaultProfile()
@@ -91,13 +91,13 @@ void DocumentCommands::loadDefaultProfile()
 void DocumentCommands::showProfileOutcome(const ProfileOutcome& outcome)
 {
     if (outcome.result != ProfileLoadResult::Loaded)
-        m_prompter->warn(m_window, {localized("LOADPROFILETITLE"), outcome.message});
+        m_prompter->warn(m_window, { localized("LOADPROFILETITLE"), outcome.message });
 }
 
 void DocumentCommands::openProfileDocument(const QString& path)
 {
     const QString question = localized("PROFILELOADMESSAGE").arg(lastPathComponent(path));
-    if (!m_prompter->askYesNo(m_window, {localized("PROFILESETTINGSFILETITLE"), question}))
+    if (!m_prompter->askYesNo(m_window, { localized("PROFILESETTINGSFILETITLE"), question }))
         return;
     showProfileOutcome(m_session->setCurrentSettings(path));
     m_window->raise();
@@ -110,10 +110,10 @@ void DocumentCommands::openRuleDocument(const QString& path)
     const QString name = lastPathComponent(path);
     switch (checkRuleFile(path)) {
     case RuleFileCheck::Incompatible:
-        m_prompter->warn(m_window, {title, localized("RULEINCOMPATIBLE").arg(name)});
+        m_prompter->warn(m_window, { title, localized("RULEINCOMPATIBLE").arg(name) });
         return;
     case RuleFileCheck::Unreadable:
-        m_prompter->warn(m_window, {title, localized("RULEUNREADABLE").arg(name)});
+        m_prompter->warn(m_window, { title, localized("RULEUNREADABLE").arg(name) });
         return;
     case RuleFileCheck::Compatible:
         break;
@@ -122,17 +122,17 @@ void DocumentCommands::openRuleDocument(const QString& path)
     const QString libraryPath = ruleLibraryPath(rulesFolder, path);
     // A rule opened from the library itself is already there.
     if (QFileInfo(libraryPath) == QFileInfo(path)) {
-        m_prompter->inform(m_window, {title, localized("RULEADDEDTOLIBRARY").arg(name)});
+        m_prompter->inform(m_window, { title, localized("RULEADDEDTOLIBRARY").arg(name) });
         return;
     }
     if (pathExists(libraryPath)
-        && !m_prompter->askYesNo(m_window, {title, localized("RULEALREADYEXISTS").arg(name)}))
+        && !m_prompter->askYesNo(m_window, { title, localized("RULEALREADYEXISTS").arg(name) }))
         return;
     QString error;
     if (addRuleToLibrary(path, rulesFolder, &error))
-        m_prompter->inform(m_window, {title, localized("RULEADDEDTOLIBRARY").arg(name)});
+        m_prompter->inform(m_window, { title, localized("RULEADDEDTOLIBRARY").arg(name) });
     else
-        m_prompter->warn(m_window, {title, error});
+        m_prompter->warn(m_window, { title, error });
 }
 
 } // namespace tavrin

@@ -5,10 +5,10 @@
 #include "gui/app/ClipboardPaths.h"
 #include "gui/app/DocumentCommands.h"
 #include "gui/app/DocumentOpener.h"
-#include "gui/app/WindowActions.h"
-#include "gui/control/LivePreview.h"
 #include "gui/app/TavrinAppController.h"
+#include "gui/app/WindowActions.h"
 #include "gui/app/WindowSheets.h"
+#include "gui/control/LivePreview.h"
 #include "gui/engine/RenamePanel.h"
 #include "gui/list/FileTableModel.h"
 #include "gui/list/FileTableView.h"
@@ -24,8 +24,8 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDir>
-#include <QFileInfo>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QIcon>
 #include <QItemSelection>
@@ -61,7 +61,7 @@ QString flagResource(const QString& language)
     return QStringLiteral(":/icons/flags/English_Flag.svg");
 }
 
-}  // namespace
+} // namespace
 
 MainWindow::MainWindow(TavrinAppController* controller, QWidget* parent)
     : QMainWindow(parent)
@@ -79,7 +79,7 @@ MainWindow::MainWindow(TavrinAppController* controller, QWidget* parent)
 
     createToolBar();
     setCentralWidget(createCentralArea());
-    m_actions->fillMenuBar(menuBar(), {m_renamePanel->previewAction(), m_renamePanel->applyAction()});
+    m_actions->fillMenuBar(menuBar(), { m_renamePanel->previewAction(), m_renamePanel->applyAction() });
     createStatusArea();
     handOutPrompter();
     connectActions();
@@ -126,10 +126,12 @@ void MainWindow::connectActions()
     connect(m_actions->openProfile(), &QAction::triggered, m_documents, &DocumentCommands::openProfile);
     connect(m_actions->saveProfile(), &QAction::triggered, m_documents, &DocumentCommands::saveProfile);
     connect(m_actions->saveProfileAs(), &QAction::triggered, m_documents, &DocumentCommands::saveProfileAs);
-    connect(m_actions->defaultProfile(), &QAction::triggered, m_documents, &DocumentCommands::loadDefaultProfile);
+    connect(
+        m_actions->defaultProfile(), &QAction::triggered, m_documents, &DocumentCommands::loadDefaultProfile);
     connect(m_actions->preferences(), &QAction::triggered, m_sheets, &WindowSheets::openPreferences);
     connect(m_actions->livePreview(), &QAction::triggered, this, &MainWindow::toggleLivePreview);
-    connect(m_actions->help(), &QAction::triggered, this, [this] { m_sheets->showHelpPage(QStringLiteral("main.html")); });
+    connect(m_actions->help(), &QAction::triggered, this,
+        [this] { m_sheets->showHelpPage(QStringLiteral("main.html")); });
     connect(m_actions->about(), &QAction::triggered, m_sheets, &WindowSheets::showAbout);
 }
 
@@ -239,24 +241,31 @@ void MainWindow::connectController()
     connect(list, &ListController::foundCountChanged, m_countLabel, &QLabel::setText);
     connect(list, &ListController::progressChanged, this, &MainWindow::showProgress);
     connect(list, &ListController::nonUtf8NamesSkipped, this, &MainWindow::showSkippedNames);
-    connect(list, &ListController::pasteboardItemsRequested, m_sheets, &WindowSheets::openPasteboardItemsSheet);
+    connect(
+        list, &ListController::pasteboardItemsRequested, m_sheets, &WindowSheets::openPasteboardItemsSheet);
     connect(&m_controller->rename(), &RenameController::renamedCountChanged, m_countLabel, &QLabel::setText);
     connect(status, &ActivityStatus::progressMessage, m_progressLabel, &ElidedLabel::setFullText);
     connect(status, &ActivityStatus::lastActionTimeTakenChanged, m_timeLabel, &QLabel::setText);
 
-    connect(m_modeSelector, &ListModeSelector::modeChosen, list, [this](ListMode mode) { m_controller->list().setMode(mode); });
+    connect(m_modeSelector, &ListModeSelector::modeChosen, list,
+        [this](ListMode mode) { m_controller->list().setMode(mode); });
     connect(m_modeSelector, &ListModeSelector::includeSubFoldersChosen, list,
         [this](bool include) { m_controller->list().setIncludeSubFolders(include); });
 
-    connect(&m_controller->session(), &SessionController::currProfileFileChanged, this, &MainWindow::updateWindowTitle);
-    connect(&m_controller->rename().livePreview(), &LivePreview::stateChanged, this, &MainWindow::updateLivePreviewAction);
+    connect(&m_controller->session(), &SessionController::currProfileFileChanged, this,
+        &MainWindow::updateWindowTitle);
+    connect(&m_controller->rename().livePreview(), &LivePreview::stateChanged, this,
+        &MainWindow::updateLivePreviewAction);
     connect(m_opener, &DocumentOpener::ruleFileOpened, m_documents, &DocumentCommands::openRuleDocument);
-    connect(m_opener, &DocumentOpener::profileFileOpened, m_documents, &DocumentCommands::openProfileDocument);
+    connect(
+        m_opener, &DocumentOpener::profileFileOpened, m_documents, &DocumentCommands::openProfileDocument);
 
     connect(m_table, &FileTableView::pathsDropped, this, &MainWindow::addPaths);
-    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, &MainWindow::updateMoveActions);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        &MainWindow::updateMoveActions);
     connect(m_model, &QAbstractItemModel::layoutChanged, this, &MainWindow::updateMoveActions);
-    connect(m_table->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, &MainWindow::sortIndicatorChanged);
+    connect(m_table->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
+        &MainWindow::sortIndicatorChanged);
 }
 
 void MainWindow::addPaths(const QStringList& paths)
@@ -323,8 +332,8 @@ void MainWindow::selectRows(const QList<int>& rows)
     }
     m_table->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     if (!rows.isEmpty())
-        m_table->selectionModel()->setCurrentIndex(m_model->index(rows.last(), FileTableModel::NameColumn),
-                                                   QItemSelectionModel::NoUpdate);
+        m_table->selectionModel()->setCurrentIndex(
+            m_model->index(rows.last(), FileTableModel::NameColumn), QItemSelectionModel::NoUpdate);
 }
 
 void MainWindow::removeSelected()
@@ -339,7 +348,7 @@ void MainWindow::removeSelected()
     // The row that took the place of the first removed one is the natural next target.
     const int count = m_model->rowCount();
     if (count > 0)
-        selectRows({std::min(rows.first(), count - 1)});
+        selectRows({ std::min(rows.first(), count - 1) });
     m_table->setFocus();
 }
 
@@ -432,7 +441,8 @@ void MainWindow::listChanged()
 void MainWindow::modeChanged()
 {
     const ListController& list = m_controller->list();
-    m_modeSelector->showMode(list.isFolders() ? ListMode::Folders : ListMode::Files, list.isIncludeSubFolders());
+    m_modeSelector->showMode(
+        list.isFolders() ? ListMode::Folders : ListMode::Files, list.isIncludeSubFolders());
     m_countLabel->setText(list.countText());
     m_actions->showListMode(list.isFiles(), list.isFolders() || list.isIncludeSubFolders());
 }
@@ -475,7 +485,8 @@ void MainWindow::openUndoSheet()
     if (m_controller->list().isExecuting())
         return;
     m_attached->hide();
-    const UndoSheetContext context{m_controller->session().logFolderPath(), &m_controller->status(), m_prompter.get()};
+    const UndoSheetContext context { m_controller->session().logFolderPath(), &m_controller->status(),
+        m_prompter.get() };
     auto* sheet = new UndoSheetController(context, this);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     sheet->open();
@@ -524,4 +535,4 @@ void MainWindow::selectAll()
     m_table->setFocus();
 }
 
-}  // namespace tavrin
+} // namespace tavrin

@@ -118,4 +118,4 @@ private:
     QString m_lastChosenFolder;
 };
 
-}  // namespace tavrin
+} // namespace tavrin

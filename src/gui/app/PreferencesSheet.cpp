@@ -42,7 +42,7 @@ struct PreferencesSheet::FolderRow {
 };
 
 PreferencesSheet::PreferencesSheet(const Preferences& preferences, Prompter* prompter, QWidget* parent)
-    : Sheet({"preferencesSheet", kTitleKey}, parent)
+    : Sheet({ "preferencesSheet", kTitleKey }, parent)
     , m_prompter(prompter)
     , m_chooseFolder([](QWidget* owner, const ChooserQuestion& question) {
         return QFileDialog::getExistingDirectory(owner, question.title, question.folder);
@@ -111,7 +111,7 @@ QDialogButtonBox* PreferencesSheet::createButtons()
 
 void PreferencesSheet::chooseFolder(QLineEdit* field, const char* titleKey)
 {
-    const QString chosen = m_chooseFolder(this, {localized(titleKey), cleanedPath(field)});
+    const QString chosen = m_chooseFolder(this, { localized(titleKey), cleanedPath(field) });
     if (!chosen.isEmpty())
         field->setText(QDir::cleanPath(chosen));
 }
@@ -138,7 +138,7 @@ void PreferencesSheet::accept()
     for (QLineEdit* field : { m_rulesField, m_profilesField, m_logsField }) {
         const QString path = cleanedPath(field);
         if (!isExistingFolder(path)) {
-            m_prompter->warn(this, {localized(kTitleKey), localized("PREFERENCESFOLDERMISSING").arg(path)});
+            m_prompter->warn(this, { localized(kTitleKey), localized("PREFERENCESFOLDERMISSING").arg(path) });
             field->setFocus();
             field->selectAll();
             return;

@@ -23,4 +23,4 @@ void TavrinAppController::applicationShouldTerminate()
     m_session.applicationShouldTerminate();
 }
 
-}  // namespace tavrin
+} // namespace tavrin

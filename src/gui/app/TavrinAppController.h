@@ -43,4 +43,4 @@ private:
     RenameController m_rename;
 };
 
-}  // namespace tavrin
+} // namespace tavrin

@@ -63,39 +63,60 @@ WindowActions::WindowActions(QWidget* window)
 void WindowActions::createListActions()
 {
     QWidget* w = m_window;
-    m_addFiles = makeAction(w, {"addFilesAction", "ADDFILES", themeIcon("document-open", QStyle::SP_DialogOpenButton, w), {}});
-    m_addFolders = makeAction(w, {"addFoldersAction", "ADDFOLDERS", themeIcon("folder-open", QStyle::SP_DirOpenIcon, w), {}});
-    m_remove = makeAction(w, {"removeAction", "REMOVE", themeIcon("list-remove", QStyle::SP_TrashIcon, w), QKeySequence::Delete});
-    m_clear = makeAction(w, {"clearAction", "CLEAR", themeIcon("edit-clear", QStyle::SP_DialogResetButton, w),
-        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Delete)});
-    m_moveUp = makeAction(w, {"moveUpAction", "MOVEUP", themeIcon("go-up", QStyle::SP_ArrowUp, w), QKeySequence(Qt::ALT | Qt::Key_Up)});
-    m_moveDown = makeAction(w, {"moveDownAction", "MOVEDOWN", themeIcon("go-down", QStyle::SP_ArrowDown, w),
-        QKeySequence(Qt::ALT | Qt::Key_Down)});
-    m_cancel = makeAction(w, {"cancelAction", "CANCELPROCESS", themeIcon("process-stop", QStyle::SP_BrowserStop, w),
-        QKeySequence::Cancel});
-    m_pasteItems = makeAction(w, {"pasteItemsAction", "PASTEITEMS", themeIcon("edit-paste"),
-        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V)});
-    m_selectAll = makeAction(w, {"selectAllAction", "SELECTALL", themeIcon("edit-select-all"), QKeySequence::SelectAll});
-    m_undo = makeAction(w, {"undoBatchAction", "UNDOBATCH", themeIcon("edit-undo", QStyle::SP_ArrowBack, w), QKeySequence::Undo});
-    m_livePreview = makeAction(w, {"livePreviewAction", "LIVEPREVIEWACTION", QIcon(QStringLiteral(":/icons/LivePreviewOff.svg")),
-        QKeySequence(Qt::CTRL | Qt::Key_L)});
+    m_addFiles = makeAction(
+        w, { "addFilesAction", "ADDFILES", themeIcon("document-open", QStyle::SP_DialogOpenButton, w), {} });
+    m_addFolders = makeAction(
+        w, { "addFoldersAction", "ADDFOLDERS", themeIcon("folder-open", QStyle::SP_DirOpenIcon, w), {} });
+    m_remove = makeAction(w,
+        { "removeAction", "REMOVE", themeIcon("list-remove", QStyle::SP_TrashIcon, w),
+            QKeySequence::Delete });
+    m_clear = makeAction(w,
+        { "clearAction", "CLEAR", themeIcon("edit-clear", QStyle::SP_DialogResetButton, w),
+            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Delete) });
+    m_moveUp = makeAction(w,
+        { "moveUpAction", "MOVEUP", themeIcon("go-up", QStyle::SP_ArrowUp, w),
+            QKeySequence(Qt::ALT | Qt::Key_Up) });
+    m_moveDown = makeAction(w,
+        { "moveDownAction", "MOVEDOWN", themeIcon("go-down", QStyle::SP_ArrowDown, w),
+            QKeySequence(Qt::ALT | Qt::Key_Down) });
+    m_cancel = makeAction(w,
+        { "cancelAction", "CANCELPROCESS", themeIcon("process-stop", QStyle::SP_BrowserStop, w),
+            QKeySequence::Cancel });
+    m_pasteItems = makeAction(w,
+        { "pasteItemsAction", "PASTEITEMS", themeIcon("edit-paste"),
+            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V) });
+    m_selectAll = makeAction(
+        w, { "selectAllAction", "SELECTALL", themeIcon("edit-select-all"), QKeySequence::SelectAll });
+    m_undo = makeAction(w,
+        { "undoBatchAction", "UNDOBATCH", themeIcon("edit-undo", QStyle::SP_ArrowBack, w),
+            QKeySequence::Undo });
+    m_livePreview = makeAction(w,
+        { "livePreviewAction", "LIVEPREVIEWACTION", QIcon(QStringLiteral(":/icons/LivePreviewOff.svg")),
+            QKeySequence(Qt::CTRL | Qt::Key_L) });
     m_livePreview->setCheckable(true);
 }
 
 void WindowActions::createSessionActions()
 {
     QWidget* w = m_window;
-    m_openProfile = makeAction(w, {"openProfileAction", "OPENPROFILE", themeIcon("document-open"),
-        QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_O)});
-    m_saveProfile = makeAction(w, {"saveProfileAction", "SAVEPROFILE", themeIcon("document-save"), QKeySequence::Save});
-    m_saveProfileAs = makeAction(w, {"saveProfileAsAction", "SAVEASPROFILE", themeIcon("document-save-as"),
-        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)});
-    m_defaultProfile = makeAction(w, {"defaultProfileAction", "DEFAULTPROFILE", themeIcon("document-new"), {}});
-    m_preferences = makeAction(w, {"preferencesAction", "PREFERENCES", themeIcon("preferences-system"),
-        QKeySequence(Qt::CTRL | Qt::Key_Comma)});
-    m_quit = makeAction(w, {"quitAction", "QUIT", themeIcon("application-exit"), QKeySequence(Qt::CTRL | Qt::Key_Q)});
-    m_help = makeAction(w, {"helpAction", "HELPCONTENTS", themeIcon("help-contents"), QKeySequence::HelpContents});
-    m_about = makeAction(w, {"aboutAction", "ABOUT", themeIcon("help-about"), {}});
+    m_openProfile = makeAction(w,
+        { "openProfileAction", "OPENPROFILE", themeIcon("document-open"),
+            QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_O) });
+    m_saveProfile = makeAction(
+        w, { "saveProfileAction", "SAVEPROFILE", themeIcon("document-save"), QKeySequence::Save });
+    m_saveProfileAs = makeAction(w,
+        { "saveProfileAsAction", "SAVEASPROFILE", themeIcon("document-save-as"),
+            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S) });
+    m_defaultProfile
+        = makeAction(w, { "defaultProfileAction", "DEFAULTPROFILE", themeIcon("document-new"), {} });
+    m_preferences = makeAction(w,
+        { "preferencesAction", "PREFERENCES", themeIcon("preferences-system"),
+            QKeySequence(Qt::CTRL | Qt::Key_Comma) });
+    m_quit = makeAction(
+        w, { "quitAction", "QUIT", themeIcon("application-exit"), QKeySequence(Qt::CTRL | Qt::Key_Q) });
+    m_help = makeAction(
+        w, { "helpAction", "HELPCONTENTS", themeIcon("help-contents"), QKeySequence::HelpContents });
+    m_about = makeAction(w, { "aboutAction", "ABOUT", themeIcon("help-about"), {} });
 }
 
 void WindowActions::setToolTips()
@@ -112,9 +133,9 @@ void WindowActions::setToolTips()
 void WindowActions::fillMenuBar(QMenuBar* menuBar, const RenameMenuActions& rename) const
 {
     QMenu* file = menuBar->addMenu(localized("FILEMENU"));
-    file->addActions({m_addFiles, m_addFolders});
+    file->addActions({ m_addFiles, m_addFolders });
     file->addSeparator();
-    file->addActions({m_openProfile, m_saveProfile, m_saveProfileAs, m_defaultProfile});
+    file->addActions({ m_openProfile, m_saveProfile, m_saveProfileAs, m_defaultProfile });
     file->addSeparator();
     file->addAction(m_preferences);
     file->addSeparator();
@@ -123,32 +144,32 @@ void WindowActions::fillMenuBar(QMenuBar* menuBar, const RenameMenuActions& rena
     QMenu* edit = menuBar->addMenu(localized("EDITMENU"));
     edit->addAction(m_undo);
     edit->addSeparator();
-    edit->addActions({m_pasteItems, m_selectAll, m_remove, m_clear});
+    edit->addActions({ m_pasteItems, m_selectAll, m_remove, m_clear });
     edit->addSeparator();
-    edit->addActions({m_moveUp, m_moveDown});
+    edit->addActions({ m_moveUp, m_moveDown });
 
     QMenu* renameMenu = menuBar->addMenu(localized("RENAMEMENU"));
-    renameMenu->addActions({rename.preview, rename.apply, m_livePreview});
+    renameMenu->addActions({ rename.preview, rename.apply, m_livePreview });
     renameMenu->addSeparator();
     renameMenu->addAction(m_cancel);
 
     QMenu* help = menuBar->addMenu(localized("HELPMENU"));
-    help->addActions({m_help, m_about});
+    help->addActions({ m_help, m_about });
 }
 
 void WindowActions::fillToolBar(QToolBar* toolBar) const
 {
-    toolBar->addActions({m_addFiles, m_addFolders, m_remove, m_clear});
+    toolBar->addActions({ m_addFiles, m_addFolders, m_remove, m_clear });
     toolBar->addSeparator();
-    toolBar->addActions({m_moveUp, m_moveDown});
+    toolBar->addActions({ m_moveUp, m_moveDown });
     toolBar->addSeparator();
-    toolBar->addActions({m_undo, m_livePreview});
+    toolBar->addActions({ m_undo, m_livePreview });
 }
 
 void WindowActions::setExecuting(bool executing)
 {
-    for (QAction* action : {m_addFiles, m_addFolders, m_remove, m_clear, m_undo, m_pasteItems, m_selectAll,
-             m_openProfile, m_defaultProfile})
+    for (QAction* action : { m_addFiles, m_addFolders, m_remove, m_clear, m_undo, m_pasteItems, m_selectAll,
+             m_openProfile, m_defaultProfile })
         action->setEnabled(!executing);
     m_cancel->setEnabled(executing);
 }

@@ -31,7 +31,8 @@ void WindowSheets::showLivePreview()
     }
     auto* sheet = new LivePreviewSheet(live.isLivePreviewAllFiles(), live.livePreviewFilesLimit(), m_window);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
-    connect(sheet, &LivePreviewSheet::helpRequested, this, [this] { showHelpPage(QStringLiteral("livepreview.html")); });
+    connect(sheet, &LivePreviewSheet::helpRequested, this,
+        [this] { showHelpPage(QStringLiteral("livepreview.html")); });
     connect(sheet, &QDialog::accepted, this, [&rename, sheet] {
         rename.setLivePreviewCoverage(sheet->isAllFiles(), sheet->filesLimit());
         rename.setLivePreview(true);
@@ -44,13 +45,15 @@ void WindowSheets::openPreferences()
     SessionController& session = m_controller->session();
     auto* sheet = new PreferencesSheet(session.preferences(), m_prompter, m_window);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
-    connect(sheet, &PreferencesSheet::helpRequested, this, [this] { showHelpPage(QStringLiteral("preferences.html")); });
+    connect(sheet, &PreferencesSheet::helpRequested, this,
+        [this] { showHelpPage(QStringLiteral("preferences.html")); });
     connect(sheet, &QDialog::accepted, this, [this, &session, sheet] {
         QString error;
         if (session.applyPreferences(sheet->preferences(), &error))
-            m_prompter->inform(m_window, {localized("PREFERENCESTITLE"), localized("PREFERENCESSAVEDMESSAGE")});
+            m_prompter->inform(
+                m_window, { localized("PREFERENCESTITLE"), localized("PREFERENCESSAVEDMESSAGE") });
         else
-            m_prompter->warn(m_window, {localized("PREFERENCESTITLE"), error});
+            m_prompter->warn(m_window, { localized("PREFERENCESTITLE"), error });
     });
     sheet->open();
 }
@@ -62,7 +65,8 @@ void WindowSheets::openPasteboardItemsSheet(const QStringList& paths)
     connect(sheet, &PasteboardItemsSheet::helpRequested, this,
         [this] { showHelpPage(QStringLiteral("pasteditems.html")); });
     connect(sheet, &QDialog::accepted, this, [this, sheet] {
-        const ListChoice choice{sheet->isFolders() ? ListMode::Folders : ListMode::Files, sheet->isIncludeSubFolders()};
+        const ListChoice choice { sheet->isFolders() ? ListMode::Folders : ListMode::Files,
+            sheet->isIncludeSubFolders() };
         m_controller->list().addPastedItems(sheet->paths(), choice);
     });
     sheet->open();
@@ -72,12 +76,13 @@ void WindowSheets::showHelpPage(const QString& page)
 {
     const QString file = helpPageFile(page);
     if (file.isEmpty() || !m_prompter->openWithDesktop(file))
-        m_prompter->warn(m_window, {localized("HELP"), localized("HELPUNAVAILABLE")});
+        m_prompter->warn(m_window, { localized("HELP"), localized("HELPUNAVAILABLE") });
 }
 
 void WindowSheets::showAbout()
 {
-    QMessageBox::about(m_window, localized("APPTITLE"), localized("ABOUTTEXT").arg(QApplication::applicationVersion()));
+    QMessageBox::about(
+        m_window, localized("APPTITLE"), localized("ABOUTTEXT").arg(QApplication::applicationVersion()));
 }
 
 } // namespace tavrin

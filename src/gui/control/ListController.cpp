@@ -120,13 +120,13 @@ bool ListController::addFiles(const QStringList& paths)
         return false;
     m_lastSkippedPaths.clear();
     emit foundCountChanged(foundCountText(0));
-    const ScanOptions options{isFolders(), isIncludeSubFolders(), false};
+    const ScanOptions options { isFolders(), isIncludeSubFolders(), false };
     auto skipped = std::make_shared<QStringList>();
     const auto scan = [paths, options, skipped](
                           FileList& files, const std::atomic_bool& cancel, ProgressObserver* progress) {
         *skipped = files.addFiles(paths, options, cancel, progress).skipped;
     };
-    return run({localized("LOADINGMESSAGE").arg(modeWordText()), "addFiles", false}, scan,
+    return run({ localized("LOADINGMESSAGE").arg(modeWordText()), "addFiles", false }, scan,
         [this, skipped] { finishAddFiles(*skipped); });
 }
 
@@ -155,7 +155,8 @@ bool ListController::run(const ListJob& job, Work work, Finish finish)
             work(m_files, cancel, quiet ? nullptr : progress);
         } catch (const std::exception& error) {
             qWarning().noquote() << QStringLiteral("Error in %1 : %2")
-                                        .arg(QString::fromLatin1(operation), QString::fromLocal8Bit(error.what()));
+                                        .arg(QString::fromLatin1(operation),
+                                            QString::fromLocal8Bit(error.what()));
         }
     });
     if (!quiet) {

@@ -32,7 +32,8 @@ class ListController : public QObject {
     Q_OBJECT
 
 public:
-    using Work = std::function<void(FileList& files, const std::atomic_bool& cancel, ProgressObserver* progress)>;
+    using Work
+        = std::function<void(FileList& files, const std::atomic_bool& cancel, ProgressObserver* progress)>;
     using Finish = std::function<void()>;
 
     ListController(Settings& settings, ActivityStatus& status, QObject* parent = nullptr);

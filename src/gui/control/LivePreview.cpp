@@ -17,8 +17,10 @@ LivePreview::LivePreview(RenameController& rename)
     m_quickPreviewTimer.setSingleShot(true);
     m_quickPreviewTimer.setInterval(DelayMilliseconds);
     connect(&m_quickPreviewTimer, &QTimer::timeout, this, &LivePreview::quickPreviewTimerMethod);
-    connect(&rename.session().settings(), &Settings::settingsChanged, this, &LivePreview::scheduleQuickPreview);
-    connect(&rename.session(), &SessionController::currentSettingsApplied, this, &LivePreview::scheduleQuickPreview);
+    connect(
+        &rename.session().settings(), &Settings::settingsChanged, this, &LivePreview::scheduleQuickPreview);
+    connect(&rename.session(), &SessionController::currentSettingsApplied, this,
+        &LivePreview::scheduleQuickPreview);
     // New items, and a new order that sequences follow, change the names too.
     connect(&rename.list(), &ListController::addFinished, this, &LivePreview::scheduleQuickPreview);
     connect(&rename.list(), &ListController::orderChanged, this, &LivePreview::scheduleQuickPreview);

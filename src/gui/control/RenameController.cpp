@@ -51,7 +51,8 @@ std::optional<ValidationFailure> RenameController::preview()
         return failure;
     const Options options = std::make_shared<const PropertyOptionValues>(m_session.settings());
     m_previewOutcome = PreviewOutcome();
-    m_list.run({localized("GENERATINGPREVIEWPLEASEWAIT"), "doPreview", false},
+    m_list.run(
+        { localized("GENERATINGPREVIEWPLEASEWAIT"), "doPreview", false },
         [this, options](FileList& files, const std::atomic_bool& cancel, ProgressObserver* progress) {
             m_previewOutcome = Pipeline(files, *options).preview(cancel, progress);
         },
@@ -69,7 +70,8 @@ bool RenameController::quickPreview(int limit)
     }
     const Options options = std::make_shared<const PropertyOptionValues>(m_session.settings());
     m_previewOutcome = PreviewOutcome();
-    return m_list.run({QString(), "doPreview", true},
+    return m_list.run(
+        { QString(), "doPreview", true },
         [this, options, limit](FileList& files, const std::atomic_bool& cancel, ProgressObserver* progress) {
             m_previewOutcome = Pipeline(files, *options).preview(cancel, progress, limit);
         },
@@ -89,7 +91,7 @@ bool RenameController::apply(const ContinueWithoutLogQuestion& continueWithoutLo
         const auto ask = [this, &continueWithoutLog] { return m_list.askOnGuiThread(continueWithoutLog); };
         m_applyOutcome = Pipeline(files, *options).applyRenames(folder, ask, cancel, progress);
     };
-    return m_list.run({localized("RENAMINGITEMSPLEASEWAIT").arg(modeWord), "doApply", false}, work,
+    return m_list.run({ localized("RENAMINGITEMSPLEASEWAIT").arg(modeWord), "doApply", false }, work,
         [this] { finishApply(); });
 }
 
@@ -167,8 +169,8 @@ void RenameController::restoreLivePreview()
 
 void RenameController::rememberLivePreview()
 {
-    m_session.rememberLivePreview({m_livePreview->isLivePreviewEnabled(), m_livePreview->isLivePreviewAllFiles(),
-        m_livePreview->livePreviewFilesLimit()});
+    m_session.rememberLivePreview({ m_livePreview->isLivePreviewEnabled(),
+        m_livePreview->isLivePreviewAllFiles(), m_livePreview->livePreviewFilesLimit() });
 }
 
 } // namespace tavrin

@@ -1,9 +1,9 @@
 #include "gui/control/SessionController.h"
 
-#include "core/profiles/SettingsRecord.h"
 #include "core/formats/KeyedArchive.h"
-#include "core/text/LocalizedStrings.h"
 #include "core/profiles/Settings.h"
+#include "core/profiles/SettingsRecord.h"
+#include "core/text/LocalizedStrings.h"
 #include "gui/control/ListController.h"
 #include "gui/control/LivePreview.h"
 
@@ -34,11 +34,11 @@ ProfileOutcome loadFailure(ProfileLoadResult result, const QString& path, const 
 {
     const QString name = QFileInfo(path).fileName();
     if (result == ProfileLoadResult::Incompatible)
-        return {result, localized("PROFILEINCOMPATIBLE").arg(name)};
+        return { result, localized("PROFILEINCOMPATIBLE").arg(name) };
     QString message = localized("PROFILELOADFAILED").arg(name);
     if (!reason.isEmpty())
         message += QLatin1Char('\n') + reason;
-    return {result, message};
+    return { result, message };
 }
 
 } // namespace
@@ -143,7 +143,7 @@ void SessionController::saveProfileInUseWhenAutomatic()
 ProfileOutcome SessionController::setCurrentSettings(const QString& path)
 {
     if (m_list.isExecuting())
-        return {ProfileLoadResult::Failed, localized("PROFILELOADBUSY")};
+        return { ProfileLoadResult::Failed, localized("PROFILELOADBUSY") };
     if (path != m_currProfileFile)
         saveProfileInUseWhenAutomatic();
     ProfileLoadResult result = ProfileLoadResult::Failed;

@@ -22,7 +22,7 @@ inline constexpr char Defaults[] = "DEFAULTS";
 inline constexpr char LivePreview[] = "LIVEPREVIEW";
 inline constexpr char LivePreviewAllFiles[] = "LIVEPREVIEWALLFILES";
 inline constexpr char LivePreviewFilesLimit[] = "LIVEPREVIEWFILESLIMIT";
-}  // namespace userdefaults
+} // namespace userdefaults
 
 // How opening a profile ended, with the message to show when it failed.
 struct ProfileOutcome {

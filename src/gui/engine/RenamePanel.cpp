@@ -143,8 +143,8 @@ void RenamePanel::actionPreview()
     }
     m_attached->hide();
     if (const std::optional<ValidationFailure> failure = m_rename->preview()) {
-        m_prompter->warn(
-            window(), {LocalizedStrings::text(failure->titleKey), LocalizedStrings::text(failure->messageKey)});
+        m_prompter->warn(window(),
+            { LocalizedStrings::text(failure->titleKey), LocalizedStrings::text(failure->messageKey) });
         focusField(failure->focusOption);
     }
 }

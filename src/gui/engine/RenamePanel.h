@@ -19,8 +19,8 @@ class RenamePanel : public QWidget {
     Q_OBJECT
 
 public:
-    RenamePanel(RenameController* rename, AttachedWindow* attached, QAction* cancelAction,
-        QWidget* parent = nullptr);
+    RenamePanel(
+        RenameController* rename, AttachedWindow* attached, QAction* cancelAction, QWidget* parent = nullptr);
     ~RenamePanel() override;
 
     ActionTabs* tabs() const { return m_tabs; }

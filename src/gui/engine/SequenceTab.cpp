@@ -68,8 +68,8 @@ QWidget* SequenceTab::fieldForOption(const QString& optionKey) const
 // button's id is also its row.
 void SequenceTab::addChoiceRow(QGridLayout* grid, QButtonGroup* group, const ChoiceRow& choice)
 {
-    QRadioButton* button = m_binder->radioButton(
-        group, choice.id, QString::fromLatin1(choice.objectName), choice.labelKey);
+    QRadioButton* button
+        = m_binder->radioButton(group, choice.id, QString::fromLatin1(choice.objectName), choice.labelKey);
     OptionBinder::describeRow({ button, choice.field }, localized(choice.tipKey));
     grid->addWidget(button, choice.id, 0);
     grid->addWidget(choice.field, choice.id, 1);

@@ -38,7 +38,7 @@ QString formattedCount(int count)
 } // namespace
 
 UndoSheetController::UndoSheetController(UndoSheetContext context, QWidget* parent)
-    : Sheet({"undoSheet", kTitleKey}, parent)
+    : Sheet({ "undoSheet", kTitleKey }, parent)
     , m_context(std::move(context))
     , m_model(new LogTableModel(this))
     , m_worker(new BackgroundJob(this))
@@ -76,7 +76,7 @@ QWidget* UndoSheetController::createTable()
 {
     m_table = new QTableView;
     m_table->setObjectName(QStringLiteral("logTable"));
-    setUpTable(m_table, {m_model, QAbstractItemView::SingleSelection, [this] { deleteLogFile(); }});
+    setUpTable(m_table, { m_model, QAbstractItemView::SingleSelection, [this] { deleteLogFile(); } });
     QHeaderView* header = m_table->horizontalHeader();
     header->setSectionResizeMode(LogTableModel::FileNameColumn, QHeaderView::Stretch);
     header->setSectionResizeMode(LogTableModel::DateCreatedColumn, QHeaderView::ResizeToContents);
@@ -126,12 +126,12 @@ QWidget* UndoSheetController::createLogCommands()
     m_logCommands = new QWidget;
     auto* layout = new QVBoxLayout(m_logCommands);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(makeButton({"openLogButton", "OPENLOGBUTTON", "OPENLOGTOOLTIP"},
+    layout->addWidget(makeButton({ "openLogButton", "OPENLOGBUTTON", "OPENLOGTOOLTIP" },
         themeIcon("document-open", QStyle::SP_DialogOpenButton), &UndoSheetController::openLogFile));
-    layout->addWidget(makeButton({"viewLogButton", "VIEWLOGBUTTON", "VIEWLOGTOOLTIP"},
+    layout->addWidget(makeButton({ "viewLogButton", "VIEWLOGBUTTON", "VIEWLOGTOOLTIP" },
         themeIcon("document-preview", QStyle::SP_FileDialogContentsView),
         &UndoSheetController::viewLogFileContent));
-    layout->addWidget(makeButton({"deleteLogButton", "DELETELOGBUTTON", "DELETELOGTOOLTIP"},
+    layout->addWidget(makeButton({ "deleteLogButton", "DELETELOGBUTTON", "DELETELOGTOOLTIP" },
         themeIcon("edit-delete", QStyle::SP_TrashIcon), &UndoSheetController::deleteLogFile));
     layout->addStretch(1);
     return m_logCommands;
@@ -141,7 +141,7 @@ QDialogButtonBox* UndoSheetController::createButtons()
 {
     QDialogButtonBox* box = createButtonBox(QDialogButtonBox::Close);
     // The sheet is there to undo: its button takes the place and the Return key of an OK.
-    QPushButton* undo = addDefaultButton(box, {"undoButton", "UNDOBUTTON", "UNDOBUTTONTOOLTIP"});
+    QPushButton* undo = addDefaultButton(box, { "undoButton", "UNDOBUTTON", "UNDOBUTTONTOOLTIP" });
     undo->setIcon(themeIcon("edit-undo", QStyle::SP_ArrowBack));
     connect(undo, &QPushButton::clicked, this, &UndoSheetController::undoRenaming);
     return box;
@@ -221,7 +221,7 @@ void UndoSheetController::showProgress(int done, int total)
 
 void UndoSheetController::alert(Severity severity, const char* titleKey, const QString& message)
 {
-    m_context.prompter->alert(this, severity, {localized(titleKey), message});
+    m_context.prompter->alert(this, severity, { localized(titleKey), message });
 }
 
 void UndoSheetController::undoRenaming()
@@ -241,7 +241,8 @@ void UndoSheetController::undoRenaming()
     m_context.status->startTiming();
     m_jobPath = m_currLogFilePath;
     m_summary = UndoSummary();
-    connect(m_worker, &BackgroundJob::finished, this, &UndoSheetController::finishUndo, Qt::SingleShotConnection);
+    connect(
+        m_worker, &BackgroundJob::finished, this, &UndoSheetController::finishUndo, Qt::SingleShotConnection);
     m_worker->start([this, path = m_jobPath](const std::atomic_bool& cancel, ProgressObserver* progress) {
         m_summary = tavrin::undoRenaming(path, cancel, progress);
     });
@@ -283,8 +284,8 @@ void UndoSheetController::openLogFile()
     setUndoing(true, localized("CHECKINGLOGFILE"));
     m_jobPath = path;
     m_checked = CheckedLog();
-    connect(
-        m_worker, &BackgroundJob::finished, this, &UndoSheetController::finishCheck, Qt::SingleShotConnection);
+    connect(m_worker, &BackgroundJob::finished, this, &UndoSheetController::finishCheck,
+        Qt::SingleShotConnection);
     m_worker->start(
         [this, path](const std::atomic_bool&, ProgressObserver*) { m_checked = tavrin::openLogFile(path); });
 }
@@ -323,7 +324,7 @@ void UndoSheetController::deleteLogFile()
         return;
     }
     if (m_context.prompter->askYesNo(
-            this, {localized(kTitleKey), localized("UNDOFILESFOLDERSDELETECONFIRM")}))
+            this, { localized(kTitleKey), localized("UNDOFILESFOLDERSDELETECONFIRM") }))
         removeCurrentLog();
 }
 

@@ -71,7 +71,8 @@ private:
     QWidget* createStatusArea();
     QWidget* createLogCommands();
     QDialogButtonBox* createButtons();
-    QPushButton* makeButton(const SheetButton& text, const QIcon& icon, void (UndoSheetController::*command)());
+    QPushButton* makeButton(
+        const SheetButton& text, const QIcon& icon, void (UndoSheetController::*command)());
     QIcon themeIcon(const char* name, QStyle::StandardPixmap fallback) const;
 
     void selectionChanged();

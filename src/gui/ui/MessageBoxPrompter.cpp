@@ -48,14 +48,14 @@ QMessageBox::Icon iconOf(Prompter::Severity severity)
 
 bool MessageBoxPrompter::confirmRename(QWidget* parent)
 {
-    return ask(parent, {localized("ITEMRENAMINGTITLE"), localized("ITEMRENAMINGMESSAGE")}, QMessageBox::Question,
-        {"YES", "NO"});
+    return ask(parent, { localized("ITEMRENAMINGTITLE"), localized("ITEMRENAMINGMESSAGE") },
+        QMessageBox::Question, { "YES", "NO" });
 }
 
 bool MessageBoxPrompter::continueWithoutLog(QWidget* parent)
 {
-    return ask(parent, {localized("ITEMRENAMINGTITLE"), localized("LOGCREATEFAILED")}, QMessageBox::Warning,
-        {"CONTINUE", "ABORT"});
+    return ask(parent, { localized("ITEMRENAMINGTITLE"), localized("LOGCREATEFAILED") }, QMessageBox::Warning,
+        { "CONTINUE", "ABORT" });
 }
 
 void MessageBoxPrompter::alert(QWidget* parent, Severity severity, const PromptText& text)
@@ -67,7 +67,7 @@ void MessageBoxPrompter::alert(QWidget* parent, Severity severity, const PromptT
 
 bool MessageBoxPrompter::askYesNo(QWidget* parent, const PromptText& text)
 {
-    return ask(parent, text, QMessageBox::Question, {"YES", "NO"});
+    return ask(parent, text, QMessageBox::Question, { "YES", "NO" });
 }
 
 QString MessageBoxPrompter::chooseLogFile(QWidget* parent, const QString& folder)

@@ -18,9 +18,9 @@ struct StandardButtonText {
 };
 
 constexpr StandardButtonText kButtonTexts[] = {
-    {QDialogButtonBox::Cancel, "cancelButton", "CANCEL"},
-    {QDialogButtonBox::Close, "closeButton", "CLOSE"},
-    {QDialogButtonBox::Save, "saveButton", "SAVE"},
+    { QDialogButtonBox::Cancel, "cancelButton", "CANCEL" },
+    { QDialogButtonBox::Close, "closeButton", "CLOSE" },
+    { QDialogButtonBox::Save, "saveButton", "SAVE" },
 };
 
 } // namespace
