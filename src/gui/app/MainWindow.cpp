@@ -420,10 +420,10 @@ void MainWindow::executingChanged(bool executing)
     updateMoveActions();
 }
 
-void MainWindow::showProgress(int done, int total)
+void MainWindow::showProgress(const Progress& progress)
 {
-    m_busyIndicator->setRange(0, total);
-    m_busyIndicator->setValue(done);
+    m_busyIndicator->setRange(0, progress.total);
+    m_busyIndicator->setValue(progress.done);
 }
 
 void MainWindow::listChanged()

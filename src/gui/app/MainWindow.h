@@ -14,6 +14,7 @@ class QToolBar;
 namespace tavrin {
 
 class AttachedWindow;
+struct Progress;
 class DocumentCommands;
 class DocumentOpener;
 class ElidedLabel;
@@ -80,7 +81,7 @@ private:
     void clearSortIndicator();
 
     void executingChanged(bool executing);
-    void showProgress(int done, int total);
+    void showProgress(const Progress& progress);
     void listChanged();
     void modeChanged();
     void updateMoveActions();

@@ -197,7 +197,7 @@ void ListController::reportProgress(const Progress& progress)
     if (progress.total < 0)
         emit foundCountChanged(foundCountText(progress.done));
     else
-        emit progressChanged(progress.done, progress.total);
+        emit progressChanged(progress);
 }
 
 void ListController::removeRows(const QList<int>& rows)

@@ -87,7 +87,7 @@ signals:
     // The running count of an add: "Files found: n".
     void foundCountChanged(const QString& text);
     // How far a preview or an apply has come through the list.
-    void progressChanged(int done, int total);
+    void progressChanged(const tavrin::Progress& progress);
     // Around a change that replaces the rows (add, remove, clear, sort, preview, apply).
     void listAboutToChange();
     void listChanged();

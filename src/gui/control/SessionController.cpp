@@ -30,15 +30,22 @@ private:
     bool& m_flag;
 };
 
-ProfileOutcome loadFailure(ProfileLoadResult result, const QString& path, const QString& reason)
+// A profile that could not be opened, and why.
+struct LoadFailure {
+    ProfileLoadResult result;
+    QString path;
+    QString reason;
+};
+
+ProfileOutcome failureOutcome(const LoadFailure& failure)
 {
-    const QString name = QFileInfo(path).fileName();
-    if (result == ProfileLoadResult::Incompatible)
-        return { result, localized("PROFILEINCOMPATIBLE").arg(name) };
+    const QString name = QFileInfo(failure.path).fileName();
+    if (failure.result == ProfileLoadResult::Incompatible)
+        return { failure.result, localized("PROFILEINCOMPATIBLE").arg(name) };
     QString message = localized("PROFILELOADFAILED").arg(name);
-    if (!reason.isEmpty())
-        message += QLatin1Char('\n') + reason;
-    return { result, message };
+    if (!failure.reason.isEmpty())
+        message += QLatin1Char('\n') + failure.reason;
+    return { failure.result, message };
 }
 
 } // namespace
@@ -153,7 +160,7 @@ ProfileOutcome SessionController::setCurrentSettings(const QString& path)
         result = loadProfileFile(m_settings, path, &error);
     }
     if (result != ProfileLoadResult::Loaded)
-        return loadFailure(result, path, error);
+        return failureOutcome({ result, path, error });
     setCurrProfileFile(path);
     emit currentSettingsApplied();
     return {};

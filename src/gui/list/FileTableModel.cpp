@@ -76,7 +76,7 @@ QVariant FileTableModel::data(const QModelIndex& index, int role) const
     const FileSystemItem& item = m_list->shownItems()[static_cast<size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole:
-        return index.column() == IconColumn ? QVariant() : QVariant(displayText(index.row(), index.column()));
+        return index.column() == IconColumn ? QVariant() : QVariant(displayText(index));
     case Qt::DecorationRole:
         return index.column() == IconColumn ? QVariant(m_icons.icon(item)) : QVariant();
     case Qt::ToolTipRole:
@@ -93,9 +93,10 @@ QVariant FileTableModel::data(const QModelIndex& index, int role) const
     }
 }
 
-QString FileTableModel::displayText(int row, int column) const
+QString FileTableModel::displayText(const QModelIndex& index) const
 {
-    const FileSystemItem& item = m_list->shownItems()[static_cast<size_t>(row)];
+    const FileSystemItem& item = m_list->shownItems()[static_cast<size_t>(index.row())];
+    const int column = index.column();
     const QString text = item.displayField(columnKey(column));
     // The record answers the type as a string-table key ("FILE", "FOLDER").
     if (column == TypeColumn && !text.isEmpty())

@@ -30,7 +30,7 @@ public:
     static bool isSortableColumn(int column);
 
 private:
-    QString displayText(int row, int column) const;
+    QString displayText(const QModelIndex& index) const;
 
     ListController* m_list;
     mutable ItemIconCache m_icons;

@@ -44,8 +44,7 @@ UndoSheetController::UndoSheetController(UndoSheetContext context, QWidget* pare
     , m_worker(new BackgroundJob(this))
 {
     createWidgets();
-    connect(m_worker, &BackgroundJob::progressChanged, this,
-        [this](const Progress& progress) { showProgress(progress.done, progress.total); });
+    connect(m_worker, &BackgroundJob::progressChanged, this, &UndoSheetController::showProgress);
     connect(this, &Sheet::helpRequested, this, &UndoSheetController::showHelp);
     loadUserLogFiles();
     resize(680, 440);
@@ -211,12 +210,12 @@ void UndoSheetController::setUndoing(bool undoing, const QString& status)
         m_table->setFocus();
 }
 
-void UndoSheetController::showProgress(int done, int total)
+void UndoSheetController::showProgress(const Progress& progress)
 {
-    if (!m_isUndoing || total <= 0)
+    if (!m_isUndoing || progress.total <= 0)
         return;
-    m_busyIndicator->setRange(0, total);
-    m_busyIndicator->setValue(done);
+    m_busyIndicator->setRange(0, progress.total);
+    m_busyIndicator->setValue(progress.done);
 }
 
 void UndoSheetController::alert(Severity severity, const char* titleKey, const QString& message)

@@ -17,6 +17,7 @@ class QTableView;
 namespace tavrin {
 
 class ActivityStatus;
+struct Progress;
 class BackgroundJob;
 class ElidedLabel;
 class LogTableModel;
@@ -80,7 +81,7 @@ private:
     void showEntriesStatus(int entries);
     void updateCountLine();
     void setUndoing(bool undoing, const QString& status);
-    void showProgress(int done, int total);
+    void showProgress(const Progress& progress);
     void alert(Prompter::Severity severity, const char* titleKey, const QString& message);
 
     void finishCheck();
