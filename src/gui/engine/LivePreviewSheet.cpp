@@ -19,7 +19,7 @@ constexpr int kLimitDigits = 6;
 } // namespace
 
 LivePreviewSheet::LivePreviewSheet(bool allFiles, const QString& limit, QWidget* parent)
-    : Sheet({"livePreviewSheet", "LIVEPREVIEWTITLE"}, parent)
+    : Sheet({ "livePreviewSheet", "LIVEPREVIEWTITLE" }, parent)
 {
 
     auto* intro = new QLabel(localized("LIVEPREVIEWINTRO"));
@@ -80,7 +80,7 @@ QWidget* LivePreviewSheet::createChoices(bool allFiles, const QString& limit)
 QDialogButtonBox* LivePreviewSheet::createButtons()
 {
     QDialogButtonBox* box = createButtonBox(QDialogButtonBox::Cancel);
-    addDefaultButton(box, {"turnOnButton", "LIVEPREVIEWTURNON"});
+    addDefaultButton(box, { "turnOnButton", "LIVEPREVIEWTURNON" });
     connect(box, &QDialogButtonBox::accepted, this, &LivePreviewSheet::accept);
     return box;
 }

@@ -110,7 +110,7 @@ QGroupBox* SequenceTab::makeCountingGroup()
             "SEQUENCEDOWNTIP" });
 
     QCheckBox* reset
-        = m_binder->checkBox(Settings::isAlphaNumericResetSequenceOnEachFolderKey, "SEQUENCERESET");
+        = m_binder->checkBox({ Settings::isAlphaNumericResetSequenceOnEachFolderKey, "SEQUENCERESET" });
     reset->setToolTip(localized("SEQUENCERESETTIP"));
     grid->addWidget(reset, 2, 0, 1, 2);
 
@@ -123,9 +123,9 @@ QGroupBox* SequenceTab::makePlacementGroup()
     auto* group = new QGroupBox(localized("SEQUENCEPLACEGROUP"));
     QGridLayout* grid = groupGrid(group);
 
-    QCheckBox* prefix = m_binder->checkBox(Settings::isAlphaNumericPrefixKey, "SEQUENCEPREFIX");
+    QCheckBox* prefix = m_binder->checkBox({ Settings::isAlphaNumericPrefixKey, "SEQUENCEPREFIX" });
     prefix->setToolTip(localized("SEQUENCEPREFIXTIP"));
-    QCheckBox* suffix = m_binder->checkBox(Settings::isAlphaNumericSufixKey, "SEQUENCESUFFIX");
+    QCheckBox* suffix = m_binder->checkBox({ Settings::isAlphaNumericSufixKey, "SEQUENCESUFFIX" });
     suffix->setToolTip(localized("SEQUENCESUFFIXTIP"));
     auto* sides = new QHBoxLayout;
     sides->setSpacing(16);
@@ -139,15 +139,16 @@ QGroupBox* SequenceTab::makePlacementGroup()
     hint->setForegroundRole(QPalette::PlaceholderText);
     grid->addWidget(hint, 1, 0, 1, 2);
 
-    QCheckBox* separate = m_binder->checkBox(Settings::isAlphaNumericSeperatorKey, "SEQUENCESEPARATOR");
+    QCheckBox* separate = m_binder->checkBox({ Settings::isAlphaNumericSeperatorKey, "SEQUENCESEPARATOR" });
     QLineEdit* separator
-        = m_binder->textField(Settings::alphaNumericSeperatorKey, "SEQUENCESEPARATORPLACEHOLDER");
+        = m_binder->textField({ Settings::alphaNumericSeperatorKey, "SEQUENCESEPARATORPLACEHOLDER" });
     OptionBinder::describeRow({ separate, separator }, localized("SEQUENCESEPARATORTIP"));
     grid->addWidget(separate, 2, 0);
     grid->addWidget(separator, 2, 1, Qt::AlignLeft);
 
     auto* maskLabel = new QLabel(localized("SEQUENCEMASK"));
-    QLineEdit* mask = m_binder->textField(Settings::alphaNumericPaddingMaskKey, "SEQUENCEMASKPLACEHOLDER");
+    QLineEdit* mask
+        = m_binder->textField({ Settings::alphaNumericPaddingMaskKey, "SEQUENCEMASKPLACEHOLDER" });
     maskLabel->setBuddy(mask);
     OptionBinder::describeRow({ maskLabel, mask }, localized("SEQUENCEMASKTIP"));
     grid->addWidget(maskLabel, 3, 0);
