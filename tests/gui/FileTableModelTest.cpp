@@ -29,15 +29,15 @@ struct RowText {
 TEST_F(FileTableModelTest, EachColumnShowsItsFieldOfTheRecord)
 {
     const RowText rows[] = {
-        { ListMode::Files, u"docs/report.final.txt"_s, u"report.final.txt"_s, u"docs"_s, u"txt"_s, u"File"_s },
+        { ListMode::Files, u"docs/report.final.txt"_s, u"report.final.txt"_s, u"docs"_s, u"txt"_s,
+            u"File"_s },
         { ListMode::Files, u"a:b/x:y.txt"_s, u"x/y.txt"_s, u"a:b"_s, u"txt"_s, u"File"_s },
         { ListMode::Folders, u"photos/2024"_s, u"2024"_s, u"photos"_s, QString(), u"Folder"_s },
     };
     for (const RowText& row : rows) {
         list().setMode(row.mode);
         list().clear();
-        const QString path
-            = row.mode == ListMode::Files ? tree.file(row.path) : tree.folder(row.path);
+        const QString path = row.mode == ListMode::Files ? tree.file(row.path) : tree.folder(row.path);
         ASSERT_TRUE(addAndWait({ path }));
         ASSERT_EQ(model.rowCount(), 1);
         EXPECT_EQ(text(FileTableModel::IconColumn), QString());

@@ -51,7 +51,8 @@ public:
     bool logQuestionOnGuiThread = false;
     QList<Alert> alerts;
     QStringList questions; // "title|message"
-    QStringList chooserFolders;
+    QList<Choice> choices;
+    QStringList chooserQuestions; // "title|folder"
     QStringList opened;
 
     bool confirmRename(QWidget*) override
@@ -80,9 +81,10 @@ public:
         return yesNoAnswer;
     }
 
-    QString chooseLogFile(QWidget*, const QString& folder) override
+    QString choose(QWidget*, Choice choice, const ChooserQuestion& question) override
     {
-        chooserFolders.append(folder);
+        choices.append(choice);
+        chooserQuestions.append(question.title + u'|' + question.folder);
         return chosenFile;
     }
 

@@ -87,22 +87,16 @@ TEST_F(PreferencesSheetTest, SaveRefusesAFolderThatIsNotThereAndFocusesItsField)
 TEST_F(PreferencesSheetTest, ChooserStartsAtTheFieldsFolderAndFillsIt)
 {
     const QString chosen = tree.folder(QStringLiteral("Elsewhere/Rules"));
-    QString answer = chosen + QLatin1Char('/');
-    QStringList asked;
-    sheet->setFolderChooser([&](QWidget* parent, const ChooserQuestion& question) {
-        EXPECT_EQ(parent, sheet.get());
-        asked.append(question.title + u'|' + question.folder);
-        return answer;
-    });
-
+    prompter.chosenFile = chosen + QLatin1Char('/');
     child<QPushButton>("rulesFolderButton")->click();
     EXPECT_EQ(child<QLineEdit>("rulesFolderField")->text(), chosen);
     // A cancelled dialog answers nothing and leaves the field as it was.
-    answer.clear();
+    prompter.chosenFile.clear();
     child<QPushButton>("rulesFolderButton")->click();
     EXPECT_EQ(child<QLineEdit>("rulesFolderField")->text(), chosen);
 
-    EXPECT_EQ(asked,
+    EXPECT_EQ(prompter.choices, QList({ Prompter::Choice::Folder, Prompter::Choice::Folder }));
+    EXPECT_EQ(prompter.chooserQuestions,
         QStringList({ QStringLiteral("Choose the Folder for Rules|") + original.defaultRulesFolderPath,
             QStringLiteral("Choose the Folder for Rules|") + chosen }));
     EXPECT_EQ(sheet->preferences().defaultRulesFolderPath, chosen);

@@ -110,6 +110,21 @@ TEST_F(RenameControllerTest, ApplyCountsWhatItRenamedAndReportsItsWay)
     }
 }
 
+TEST_F(RenameControllerTest, ACancelledPreviewEndsAndLeavesTheRestUnproposed)
+{
+    QStringList names;
+    for (int i = 0; i < 3000; ++i)
+        names.append(u"f%1.txt"_s.arg(i));
+    listFiles(names);
+    ASSERT_TRUE(runAndWait(&rename(), &RenameController::previewFinished, [&] {
+        const bool started = !rename().preview().has_value();
+        list().cancelProcess();
+        return started;
+    }));
+    EXPECT_TRUE(rename().lastPreviewOutcome().cancelled);
+    EXPECT_TRUE(newNames().last().isEmpty());
+}
+
 TEST_F(RenameControllerTest, ACancelDuringTheLogQuestionAbortsTheApply)
 {
     listFiles({ u"a.txt"_s });

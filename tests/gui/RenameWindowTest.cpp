@@ -329,7 +329,6 @@ TEST_F(RenameWindowTest, TheWindowKeepsRunningWhileALongPreviewWorks)
     }));
     EXPECT_GT(ticksWhileExecuting, 0) << "the event loop ran during the preview";
     EXPECT_EQ(cancelled.count(), 1);
-    EXPECT_TRUE(rename().lastPreviewOutcome().cancelled);
     EXPECT_TRUE(previewAction()->isEnabled());
     EXPECT_FALSE(child<QAction>(u"cancelAction"_s)->isEnabled());
 }

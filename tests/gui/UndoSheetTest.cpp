@@ -254,7 +254,9 @@ TEST_F(UndoSheetTest, AnIncompatibleLogFromDiskAlertsAndChangesNothing)
         EXPECT_EQ(selectedRow(), 1);
         EXPECT_EQ(text("logStatusLabel"), u"Renamed items in the log: 2"_s);
     }
-    EXPECT_EQ(prompter->chooserFolders, QStringList({ logFolder, logFolder }));
+    const QString question = localized("SELECTLOGFILETITLE").arg(localized("APPTITLE")) + u'|' + logFolder;
+    EXPECT_EQ(prompter->chooserQuestions, QStringList({ question, question }));
+    EXPECT_EQ(prompter->choices, QList({ Prompter::Choice::LogFile, Prompter::Choice::LogFile }));
     EXPECT_EQ(sheet->model()->rowCount(), 3);
 }
 

@@ -7,54 +7,22 @@
 #include "gui/control/SessionController.h"
 #include "gui/ui/Prompter.h"
 
-#include <QFileDialog>
 #include <QFileInfo>
+#include <QWidget>
 
 namespace tavrin {
-
-namespace {
-
-constexpr char kProfileExtension[] = ".tnprofile";
-
-QString profileFilter()
-{
-    return localized("PROFILEFILEFILTER") + QStringLiteral(" (*.tnprofile)");
-}
-
-QString chooseProfileToOpen(QWidget* parent, const ChooserQuestion& question)
-{
-    return QFileDialog::getOpenFileName(parent, question.title, question.folder, profileFilter());
-}
-
-QString chooseProfileToSave(QWidget* parent, const ChooserQuestion& question)
-{
-    QString path = QFileDialog::getSaveFileName(parent, question.title, question.folder, profileFilter());
-    if (!path.isEmpty() && !path.endsWith(QLatin1String(kProfileExtension), Qt::CaseInsensitive))
-        path += QLatin1String(kProfileExtension);
-    return path;
-}
-
-} // namespace
 
 DocumentCommands::DocumentCommands(SessionController* session, QWidget* window)
     : QObject(window)
     , m_session(session)
     , m_window(window)
-    , m_openChooser(chooseProfileToOpen)
-    , m_saveChooser(chooseProfileToSave)
 {
-}
-
-void DocumentCommands::setFileChoosers(FileChooser openChooser, FileChooser saveChooser)
-{
-    m_openChooser = std::move(openChooser);
-    m_saveChooser = std::move(saveChooser);
 }
 
 void DocumentCommands::openProfile()
 {
-    const QString path = m_openChooser(
-        m_window, { localized("CHOOSEPROFILETITLE"), m_session->preferences().defaultProfileFolderPath });
+    const QString path = m_prompter->choose(m_window, Prompter::Choice::OpenProfile,
+        { localized("CHOOSEPROFILETITLE"), m_session->preferences().defaultProfileFolderPath });
     if (!path.isEmpty())
         showProfileOutcome(m_session->setCurrentSettings(path));
 }
@@ -70,8 +38,8 @@ void DocumentCommands::saveProfile()
 // The save dialog has already asked before replacing a file of the chosen name.
 void DocumentCommands::saveProfileAs()
 {
-    const QString path = m_saveChooser(
-        m_window, { localized("SAVEASPROFILETITLE"), m_session->preferences().defaultProfileFolderPath });
+    const QString path = m_prompter->choose(m_window, Prompter::Choice::SaveProfile,
+        { localized("SAVEASPROFILETITLE"), m_session->preferences().defaultProfileFolderPath });
     if (!path.isEmpty())
         saveProfileTo(path);
 }

@@ -2,7 +2,6 @@
 
 #include <QObject>
 #include <QString>
-#include <functional>
 
 class QWidget;
 
@@ -10,7 +9,6 @@ namespace tavrin {
 
 class Prompter;
 class SessionController;
-struct ChooserQuestion;
 struct ProfileOutcome;
 
 // The commands that open and save profiles, and what happens to rule files and profiles
@@ -19,13 +17,9 @@ class DocumentCommands : public QObject {
     Q_OBJECT
 
 public:
-    // Chooses a file to open or a name to save under; empty when the user cancelled.
-    using FileChooser = std::function<QString(QWidget* parent, const ChooserQuestion& question)>;
-
     DocumentCommands(SessionController* session, QWidget* window);
 
     void setPrompter(Prompter* prompter) { m_prompter = prompter; }
-    void setFileChoosers(FileChooser openChooser, FileChooser saveChooser);
 
     void openProfile();
     // Saves to the profile in use, or asks for a name when there is none.
@@ -48,8 +42,6 @@ private:
     SessionController* m_session;
     QWidget* m_window;
     Prompter* m_prompter = nullptr;
-    FileChooser m_openChooser;
-    FileChooser m_saveChooser;
 };
 
 } // namespace tavrin

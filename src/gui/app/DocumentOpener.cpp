@@ -11,7 +11,9 @@ namespace {
 
 bool hasExtension(const QString& path, const char* extension)
 {
-    return splitNameAndExtension(lastPathComponent(path)).extension.compare(QLatin1String(extension), Qt::CaseInsensitive) == 0;
+    return splitNameAndExtension(lastPathComponent(path))
+               .extension.compare(QLatin1String(extension), Qt::CaseInsensitive)
+        == 0;
 }
 
 } // namespace

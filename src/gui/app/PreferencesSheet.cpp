@@ -6,7 +6,6 @@
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
@@ -44,9 +43,6 @@ struct PreferencesSheet::FolderRow {
 PreferencesSheet::PreferencesSheet(const Preferences& preferences, Prompter* prompter, QWidget* parent)
     : Sheet({ "preferencesSheet", kTitleKey }, parent)
     , m_prompter(prompter)
-    , m_chooseFolder([](QWidget* owner, const ChooserQuestion& question) {
-        return QFileDialog::getExistingDirectory(owner, question.title, question.folder);
-    })
 {
 
     auto* grid = new QGridLayout;
@@ -111,7 +107,8 @@ QDialogButtonBox* PreferencesSheet::createButtons()
 
 void PreferencesSheet::chooseFolder(QLineEdit* field, const char* titleKey)
 {
-    const QString chosen = m_chooseFolder(this, { localized(titleKey), cleanedPath(field) });
+    const QString chosen
+        = m_prompter->choose(this, Prompter::Choice::Folder, { localized(titleKey), cleanedPath(field) });
     if (!chosen.isEmpty())
         field->setText(QDir::cleanPath(chosen));
 }
@@ -124,11 +121,6 @@ Preferences PreferencesSheet::preferences() const
     edited.defaultLogFolderPath = cleanedPath(m_logsField);
     edited.automaticSaveCurrProfile = m_automaticSaveBox->isChecked();
     return edited;
-}
-
-void PreferencesSheet::setFolderChooser(FolderChooser chooser)
-{
-    m_chooseFolder = std::move(chooser);
 }
 
 // Saving a folder that is not there would only move the failure to the next save of a

@@ -5,7 +5,6 @@
 #include "gui/ui/Sheet.h"
 
 #include <QString>
-#include <functional>
 
 class QCheckBox;
 class QDialogButtonBox;
@@ -15,7 +14,6 @@ class QLineEdit;
 namespace tavrin {
 
 class Prompter;
-struct ChooserQuestion;
 
 // The sheet of the preferences: the folders where rules, profiles and logs are kept, and
 // whether the profile in use is saved without asking. It only edits a copy; the window
@@ -25,16 +23,11 @@ class PreferencesSheet : public Sheet {
     Q_OBJECT
 
 public:
-    using FolderChooser = std::function<QString(QWidget* parent, const ChooserQuestion& question)>;
-
-    // A folder that is not there is told through `prompter`.
+    // The folder choosers and the alert about a folder that is not there go through `prompter`.
     PreferencesSheet(const Preferences& preferences, Prompter* prompter, QWidget* parent = nullptr);
 
     // The values as edited, the folder paths cleaned.
     Preferences preferences() const;
-
-    // Replaces the folder dialog, so that tests answer it.
-    void setFolderChooser(FolderChooser chooser);
 
     void accept() override;
 
@@ -50,7 +43,6 @@ private:
     QLineEdit* m_logsField = nullptr;
     QCheckBox* m_automaticSaveBox = nullptr;
     Prompter* m_prompter;
-    FolderChooser m_chooseFolder;
 };
 
 } // namespace tavrin

@@ -42,14 +42,17 @@ QString helpPageFile(const QString& name)
     pages.removeDuplicates();
     if (!pages.contains(name))
         return {};
-    const QString helpFolder = QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + QStringLiteral("/help");
+    const QString helpFolder
+        = QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + QStringLiteral("/help");
     const QString folder = helpFolder + QLatin1Char('/') + language;
     // Every language's pages share one stylesheet, beside their folders.
-    if (!QDir().mkpath(folder) || !copyPage({ QStringLiteral(":/help/help.css"), helpFolder + QStringLiteral("/help.css") }))
+    if (!QDir().mkpath(folder)
+        || !copyPage({ QStringLiteral(":/help/help.css"), helpFolder + QStringLiteral("/help.css") }))
         return {};
     for (const QString& page : pages) {
         const QString translated = resourcePage(language, page);
-        const QString from = QFile::exists(translated) ? translated : resourcePage(QStringLiteral("en"), page);
+        const QString from
+            = QFile::exists(translated) ? translated : resourcePage(QStringLiteral("en"), page);
         if (!copyPage({ from, folder + QLatin1Char('/') + page }))
             return {};
     }

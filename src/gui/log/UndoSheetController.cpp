@@ -277,7 +277,8 @@ void UndoSheetController::openLogFile()
 {
     if (m_isUndoing)
         return;
-    const QString path = m_context.prompter->chooseLogFile(this, m_context.logFolder);
+    const QString path = m_context.prompter->choose(this, Prompter::Choice::LogFile,
+        { localized("SELECTLOGFILETITLE").arg(localized("APPTITLE")), m_context.logFolder });
     if (path.isEmpty())
         return;
     setUndoing(true, localized("CHECKINGLOGFILE"));

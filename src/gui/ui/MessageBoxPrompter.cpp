@@ -31,6 +31,33 @@ bool ask(QWidget* parent, const PromptText& text, QMessageBox::Icon icon, Answer
     return box.clickedButton() == accept;
 }
 
+constexpr char kProfileExtension[] = ".tnprofile";
+
+QString profileFilter()
+{
+    return localized("PROFILEFILEFILTER") + QStringLiteral(" (*.tnprofile)");
+}
+
+QString chooseLogFile(QWidget* parent, const ChooserQuestion& question)
+{
+    QFileDialog dialog(parent, question.title, question.folder, localized("LOGFILEFILTER"));
+    dialog.setObjectName(QStringLiteral("logFileChooser"));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setOptions(QFileDialog::ReadOnly);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return dialog.selectedFiles().constFirst();
+}
+
+QString chooseProfileToSave(QWidget* parent, const ChooserQuestion& question)
+{
+    QString path = QFileDialog::getSaveFileName(parent, question.title, question.folder, profileFilter());
+    if (!path.isEmpty() && !path.endsWith(QLatin1String(kProfileExtension), Qt::CaseInsensitive))
+        path += QLatin1String(kProfileExtension);
+    return path;
+}
+
 QMessageBox::Icon iconOf(Prompter::Severity severity)
 {
     switch (severity) {
@@ -70,17 +97,19 @@ bool MessageBoxPrompter::askYesNo(QWidget* parent, const PromptText& text)
     return ask(parent, text, QMessageBox::Question, { "YES", "NO" });
 }
 
-QString MessageBoxPrompter::chooseLogFile(QWidget* parent, const QString& folder)
+QString MessageBoxPrompter::choose(QWidget* parent, Choice choice, const ChooserQuestion& question)
 {
-    QFileDialog dialog(parent, localized("SELECTLOGFILETITLE").arg(localized("APPTITLE")), folder,
-        localized("LOGFILEFILTER"));
-    dialog.setObjectName(QStringLiteral("logFileChooser"));
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setOptions(QFileDialog::ReadOnly);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return {};
-    return dialog.selectedFiles().constFirst();
+    switch (choice) {
+    case Choice::LogFile:
+        return chooseLogFile(parent, question);
+    case Choice::OpenProfile:
+        return QFileDialog::getOpenFileName(parent, question.title, question.folder, profileFilter());
+    case Choice::SaveProfile:
+        return chooseProfileToSave(parent, question);
+    case Choice::Folder:
+        return QFileDialog::getExistingDirectory(parent, question.title, question.folder);
+    }
+    return {};
 }
 
 bool MessageBoxPrompter::openWithDesktop(const QString& path)

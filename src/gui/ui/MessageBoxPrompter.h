@@ -12,7 +12,7 @@ public:
     bool continueWithoutLog(QWidget* parent) override;
     void alert(QWidget* parent, Severity severity, const PromptText& text) override;
     bool askYesNo(QWidget* parent, const PromptText& text) override;
-    QString chooseLogFile(QWidget* parent, const QString& folder) override;
+    QString choose(QWidget* parent, Choice choice, const ChooserQuestion& question) override;
     bool openWithDesktop(const QString& path) override;
 };
 

@@ -12,19 +12,22 @@ struct PromptText {
     QString message;
 };
 
-// What a file or folder chooser is asked: its title and the folder it starts in.
+// What a chooser is asked: its title and the folder it starts in.
 struct ChooserQuestion {
     QString title;
     QString folder;
 };
 
 // What the window and its sheets ask of the user and of the desktop: questions, alerts, the
-// choice of a log file, and opening a file in another application. They go through this
+// choice of a file or a folder, and opening a file in another application. They go through this
 // interface so that a test can answer without a dialog and without starting a viewer;
 // MessageBoxPrompter is the real thing.
 class Prompter {
 public:
     enum class Severity { Information, Warning, Critical };
+    // What a chooser picks: an existing log file, a profile to open, a name to save a profile
+    // under (the dialog asks before replacing a file), a folder.
+    enum class Choice { LogFile, OpenProfile, SaveProfile, Folder };
 
     virtual ~Prompter() = default;
 
@@ -36,9 +39,8 @@ public:
     virtual void alert(QWidget* parent, Severity severity, const PromptText& text) = 0;
     // A YES/NO question: true for YES.
     virtual bool askYesNo(QWidget* parent, const PromptText& text) = 0;
-    // One existing log file chosen in an open panel that starts in `folder`; empty when the
-    // panel was cancelled.
-    virtual QString chooseLogFile(QWidget* parent, const QString& folder) = 0;
+    // The path chosen; empty when the chooser was cancelled.
+    virtual QString choose(QWidget* parent, Choice choice, const ChooserQuestion& question) = 0;
     // Shows a file in the application the desktop opens its type with; false when none could.
     virtual bool openWithDesktop(const QString& path) = 0;
 
