@@ -39,7 +39,6 @@ TEST_F(ListControllerTest, AScanRunsOffTheGuiThreadAndReportsWhatItDoes)
     EXPECT_EQ(found.first().at(0).toString(), u"Files found: 0"_s);
     EXPECT_EQ(found.last().at(0).toString(), u"Files found: 5"_s) << "the last report always arrives";
     EXPECT_TRUE(controller.status().lastActionTimeTaken().startsWith(u"Loading time: "_s));
-    EXPECT_GE(controller.status().endTime(), controller.status().startTime());
 }
 
 // While a job runs the table shows the list as it was, and every change of the list waits.

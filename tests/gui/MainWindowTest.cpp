@@ -1,7 +1,6 @@
 #include "GuiFixture.h"
 
 #include "core/text/LocalizedStrings.h"
-#include "gui/app/WindowActions.h"
 #include "gui/list/FileTableView.h"
 #include "gui/ui/AttachedWindow.h"
 

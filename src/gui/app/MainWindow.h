@@ -44,7 +44,6 @@ public:
 
     DocumentOpener* documentOpener() const { return m_opener; }
     DocumentCommands* documentCommands() const { return m_documents; }
-    WindowActions* actions() const { return m_actions; }
     // The questions and alerts of the window, its action area and its sheets go through this.
     void setPrompter(std::unique_ptr<Prompter> prompter);
 

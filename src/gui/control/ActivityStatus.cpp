@@ -17,13 +17,12 @@ double secondsSinceEpoch()
 
 void ActivityStatus::startTiming()
 {
-    m_startTime = m_endTime = secondsSinceEpoch();
+    m_startTime = secondsSinceEpoch();
 }
 
 void ActivityStatus::finishTiming(const char* key)
 {
-    m_endTime = secondsSinceEpoch();
-    m_lastActionTimeTaken = timeTakenText(m_endTime - m_startTime, key);
+    m_lastActionTimeTaken = timeTakenText(secondsSinceEpoch() - m_startTime, key);
     emit lastActionTimeTakenChanged(m_lastActionTimeTaken);
 }
 

@@ -20,9 +20,6 @@ public:
     void clearTimeTaken();
     void showMessage(const QString& text);
 
-    // Seconds since 1970 at the start and the end of the last operation.
-    double startTime() const { return m_startTime; }
-    double endTime() const { return m_endTime; }
     // The elapsed-time line of the last operation; empty after a clear.
     const QString& lastActionTimeTaken() const { return m_lastActionTimeTaken; }
 
@@ -33,8 +30,8 @@ signals:
     void lastActionTimeTakenChanged(const QString& text);
 
 private:
+    // Seconds since 1970 at the start of the last operation.
     double m_startTime = 0;
-    double m_endTime = 0;
     QString m_lastActionTimeTaken;
 };
 

@@ -37,7 +37,6 @@ public:
     // False, and nothing starts, while another job runs.
     bool start(Work work);
     void cancel() { m_cancel = true; }
-    bool isCancelled() const { return m_cancel.load(); }
 
     // On the worker thread: asks `question` (a dialog) on the GUI thread and waits for the
     // answer. A cancel ends the wait, so that a window closed while the question is on its way
