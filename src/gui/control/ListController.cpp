@@ -227,7 +227,7 @@ QList<int> ListController::moveUp(const QList<int>& rows)
     if (m_isExecuting)
         return rows;
     emit orderAboutToChange();
-    const QList<int> moved = m_files.moveUp(rows);
+    QList<int> moved = m_files.moveUp(rows);
     emit orderChanged();
     return moved;
 }
@@ -237,7 +237,7 @@ QList<int> ListController::moveDown(const QList<int>& rows)
     if (m_isExecuting)
         return rows;
     emit orderAboutToChange();
-    const QList<int> moved = m_files.moveDown(rows);
+    QList<int> moved = m_files.moveDown(rows);
     emit orderChanged();
     return moved;
 }
