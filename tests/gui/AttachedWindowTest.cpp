@@ -20,11 +20,14 @@ protected:
         return &button;
     }
 
-    QRect globalRect(const QWidget* widget) const { return QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size()); }
+    QRect globalRect(const QWidget* widget) const
+    {
+        return QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size());
+    }
 
     QWidget host;
-    QPushButton button{QStringLiteral("Remove"), &host};
-    AttachedWindow attached{&host};
+    QPushButton button { QStringLiteral("Remove"), &host };
+    AttachedWindow attached { &host };
 };
 
 TEST_F(AttachedWindowTest, PointsAtTheControlFromItsRight)
@@ -91,4 +94,4 @@ TEST_F(AttachedWindowTest, MovingTheWindowDismissesIt)
     EXPECT_FALSE(attached.isVisible());
 }
 
-}  // namespace
+} // namespace

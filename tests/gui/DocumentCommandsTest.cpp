@@ -1,25 +1,19 @@
 #include "gui/app/DocumentCommands.h"
 
+#include "GuiFixture.h"
 #include "core/text/LocalizedStrings.h"
-#include "gui/app/TavrinAppController.h"
-
-#include "GuiTestHelpers.h"
-#include "support/TempTree.h"
-
-#include <QWidget>
-#include <gtest/gtest.h>
 
 using namespace tavrin;
-using tavrin::test::ScriptedPrompter;
-using tavrin::test::TempTree;
+using namespace tavrin::test;
 
 namespace {
 
 QByteArray ruleFile(const char* version, const char* ruleName)
 {
-    return QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                      "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
-                      "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n<plist version=\"1.0\" appversion=\"")
+    return QByteArray(
+               "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+               "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+               "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n<plist version=\"1.0\" appversion=\"")
         + version + "\"><array><dict><key>rule</key><string>" + ruleName
         + "</string><key>isActive</key><string>1</string></dict></array></plist>\n";
 }
@@ -28,9 +22,9 @@ class DocumentCommandsTest : public ::testing::Test {
 protected:
     DocumentCommandsTest()
     {
-        Preferences preferences = controller.preferences();
+        Preferences preferences = controller.session().preferences();
         preferences.defaultRulesFolderPath = tree.folder(QStringLiteral("library"));
-        controller.setPreferences(preferences);
+        controller.session().setPreferences(preferences);
         commands.setPrompter(&prompter);
     }
 
@@ -39,7 +33,7 @@ protected:
     TempTree tree;
     TavrinAppController controller;
     QWidget window;
-    DocumentCommands commands{&controller, &window};
+    DocumentCommands commands { &controller.session(), &window };
     ScriptedPrompter prompter;
 };
 
@@ -48,7 +42,7 @@ TEST_F(DocumentCommandsTest, ARuleFileJoinsTheLibraryOnlyWhenItFitsAndTheUserAgr
     const QString incoming = tree.file(QStringLiteral("in/Clean.tnrule"), ruleFile("3.2", "General"));
     commands.openRuleDocument(tree.file(QStringLiteral("in/Old.tnrule"), ruleFile("2.9", "General")));
     commands.openRuleDocument(tree.file(QStringLiteral("in/Junk.tnrule"), "not a property list"));
-    EXPECT_EQ(prompter.warnings.size(), 2);
+    EXPECT_EQ(prompter.alerts.size(), 2);
     EXPECT_FALSE(tree.exists(QStringLiteral("library/Old.tnrule")));
     EXPECT_FALSE(tree.exists(QStringLiteral("library/Junk.tnrule")));
 
@@ -71,9 +65,9 @@ TEST_F(DocumentCommandsTest, AProfileDocumentReplacesTheOptionsOnlyAfterYes)
 {
     const QString profile = tree.path(QStringLiteral("Holiday.tnprofile"));
     controller.settings().setReplaceRemoveThis(QStringLiteral("IMG_"));
-    ASSERT_TRUE(controller.saveProfile(profile));
-    controller.loadDefaultProfile();
-    ASSERT_TRUE(controller.currProfileFile().isEmpty());
+    ASSERT_TRUE(controller.session().saveProfile(profile));
+    controller.session().loadDefaultProfile();
+    ASSERT_TRUE(controller.session().currProfileFile().isEmpty());
 
     prompter.yesNoAnswer = false;
     commands.openProfileDocument(profile);
@@ -84,7 +78,7 @@ TEST_F(DocumentCommandsTest, AProfileDocumentReplacesTheOptionsOnlyAfterYes)
     prompter.yesNoAnswer = true;
     commands.openProfileDocument(profile);
     EXPECT_EQ(controller.settings().replaceRemoveThis(), QStringLiteral("IMG_"));
-    EXPECT_EQ(controller.currProfileFile(), profile);
+    EXPECT_EQ(controller.session().currProfileFile(), profile);
 }
 
 TEST_F(DocumentCommandsTest, AProfileOfAnotherMajorVersionIsRefusedWithItsName)
@@ -93,11 +87,12 @@ TEST_F(DocumentCommandsTest, AProfileOfAnotherMajorVersionIsRefusedWithItsName)
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict><key>appVersion</key>"
         "<string>2.3</string><key>replaceRemoveThis</key><string>x</string></dict></plist>\n");
     commands.openProfileDocument(path);
-    ASSERT_EQ(prompter.warnings.size(), 1);
-    EXPECT_EQ(prompter.warnings.first(),
-        localized("LOADPROFILETITLE") + QLatin1Char('|') + localized("PROFILEINCOMPATIBLE").arg(QStringLiteral("Old.tnprofile")));
+    ASSERT_EQ(prompter.alerts.size(), 1);
+    EXPECT_EQ(prompter.alerts.first().text(),
+        localized("LOADPROFILETITLE") + QLatin1Char('|')
+            + localized("PROFILEINCOMPATIBLE").arg(QStringLiteral("Old.tnprofile")));
     EXPECT_TRUE(controller.settings().replaceRemoveThis().isEmpty());
-    EXPECT_TRUE(controller.currProfileFile().isEmpty());
+    EXPECT_TRUE(controller.session().currProfileFile().isEmpty());
 }
 
-}  // namespace
+} // namespace

@@ -1,148 +1,96 @@
 #include "gui/list/FileTableModel.h"
 
-#include "GuiTestHelpers.h"
-#include "core/list/FileSystemItem.h"
-#include "support/TempTree.h"
+#include "GuiFixture.h"
 
 #include <QIcon>
-#include <QSignalSpy>
-#include <gtest/gtest.h>
 
 using namespace tavrin;
-using tavrin::test::addAndWait;
-using tavrin::test::listedNames;
-using tavrin::test::TempTree;
+using namespace tavrin::test;
 
 namespace {
 
-class FileTableModelTest : public ::testing::Test {
+class FileTableModelTest : public ControllerFixture {
 protected:
-    QString text(int row, int column) const { return model.index(row, column).data().toString(); }
-    int rowOf(const QString& name) const { return static_cast<int>(listedNames(controller).indexOf(name)); }
+    QString text(int column) const { return model.index(0, column).data().toString(); }
 
-    TempTree tree;
-    TavrinAppController controller;
-    FileTableModel model{&controller};
+    FileTableModel model { &controller.list() };
 };
 
-struct CellRow {
-    int column;
-    const char* expected;  // "@" stands for the folder of the file
+struct RowText {
+    ListMode mode;
+    QString path;
+    QString name;
+    QString location;
+    QString extension;
+    QString type;
 };
 
-TEST_F(FileTableModelTest, ShowsEachColumnOfAListedFile)
+// A stored colon shows as a slash in names only: folders on the way keep theirs.
+TEST_F(FileTableModelTest, EachColumnShowsItsFieldOfTheRecord)
 {
-    tree.file(QStringLiteral("docs/report.final.txt"));
-    ASSERT_TRUE(addAndWait(controller, {tree.path(QStringLiteral("docs/report.final.txt"))}));
-    ASSERT_EQ(model.rowCount(), 1);
-    ASSERT_EQ(model.columnCount(), FileTableModel::ColumnCount);
-
-    const CellRow rows[] = {
-        {FileTableModel::IconColumn, ""},           {FileTableModel::NameColumn, "report.final.txt"},
-        {FileTableModel::NewNameColumn, ""},        {FileTableModel::LocationColumn, "@"},
-        {FileTableModel::ExtensionColumn, "txt"},   {FileTableModel::TypeColumn, "File"},
+    const RowText rows[] = {
+        { ListMode::Files, u"docs/report.final.txt"_s, u"report.final.txt"_s, u"docs"_s, u"txt"_s,
+            u"File"_s },
+        { ListMode::Files, u"a:b/x:y.txt"_s, u"x/y.txt"_s, u"a:b"_s, u"txt"_s, u"File"_s },
+        { ListMode::Folders, u"photos/2024"_s, u"2024"_s, u"photos"_s, QString(), u"Folder"_s },
     };
-    for (const CellRow& row : rows) {
-        const QString expected = QString::fromUtf8(row.expected) == QStringLiteral("@")
-                                     ? tree.path(QStringLiteral("docs"))
-                                     : QString::fromUtf8(row.expected);
-        EXPECT_EQ(text(0, row.column), expected) << "column " << row.column;
+    for (const RowText& row : rows) {
+        list().setMode(row.mode);
+        list().clear();
+        const QString path = row.mode == ListMode::Files ? tree.file(row.path) : tree.folder(row.path);
+        ASSERT_TRUE(addAndWait({ path }));
+        ASSERT_EQ(model.rowCount(), 1);
+        EXPECT_EQ(text(FileTableModel::IconColumn), QString());
+        EXPECT_EQ(text(FileTableModel::NameColumn), row.name);
+        EXPECT_EQ(text(FileTableModel::NewNameColumn), QString());
+        EXPECT_EQ(text(FileTableModel::LocationColumn), tree.path(row.location));
+        EXPECT_EQ(text(FileTableModel::ExtensionColumn), row.extension);
+        EXPECT_EQ(text(FileTableModel::TypeColumn), row.type);
+        EXPECT_EQ(model.index(0, FileTableModel::NameColumn).data(Qt::ToolTipRole).toString(),
+            tree.path(row.path).replace(u':', u'/'));
     }
-    EXPECT_EQ(model.index(0, FileTableModel::NameColumn).data(Qt::ToolTipRole).toString(),
-              tree.path(QStringLiteral("docs/report.final.txt")));
 }
 
-TEST_F(FileTableModelTest, AFolderRowIsTypedAsAFolder)
-{
-    tree.folder(QStringLiteral("photos/2024"));
-    controller.setMode(ListMode::Folders);
-    ASSERT_TRUE(addAndWait(controller, {tree.path(QStringLiteral("photos/2024"))}));
-    ASSERT_EQ(model.rowCount(), 1);
-    EXPECT_EQ(text(0, FileTableModel::NameColumn), QStringLiteral("2024"));
-    EXPECT_EQ(text(0, FileTableModel::TypeColumn), QStringLiteral("Folder"));
-    EXPECT_EQ(text(0, FileTableModel::LocationColumn), tree.path(QStringLiteral("photos")));
-}
-
-TEST_F(FileTableModelTest, AStoredColonIsShownAsASlashInNamesOnly)
-{
-    tree.file(QStringLiteral("a:b/x:y.txt"));
-    ASSERT_TRUE(addAndWait(controller, {tree.path(QStringLiteral("a:b/x:y.txt"))}));
-    ASSERT_EQ(model.rowCount(), 1);
-    EXPECT_EQ(text(0, FileTableModel::NameColumn), QStringLiteral("x/y.txt"));
-    EXPECT_EQ(text(0, FileTableModel::LocationColumn), tree.path(QStringLiteral("a:b")));
-}
+struct HeaderRow {
+    int column;
+    const char* key;
+    QString title;
+    bool sortable;
+};
 
 TEST_F(FileTableModelTest, ColumnsAreTheRecordKeysWithLocalizedHeaders)
 {
-    struct HeaderRow {
-        int column;
-        const char* key;
-        const char* title;
-        bool sortable;
-    };
     const HeaderRow rows[] = {
-        {FileTableModel::IconColumn, "icon", "", false},
-        {FileTableModel::NameColumn, "filenameWithExtension", "Name", true},
-        {FileTableModel::NewNameColumn, "newFilename", "New Name", true},
-        {FileTableModel::LocationColumn, "fileLocation", "Location", true},
-        {FileTableModel::ExtensionColumn, "fileExtension", "Extension", true},
-        {FileTableModel::TypeColumn, "fileType", "Type", true},
+        { FileTableModel::IconColumn, "icon", QString(), false },
+        { FileTableModel::NameColumn, "filenameWithExtension", u"Name"_s, true },
+        { FileTableModel::NewNameColumn, "newFilename", u"New Name"_s, true },
+        { FileTableModel::LocationColumn, "fileLocation", u"Location"_s, true },
+        { FileTableModel::ExtensionColumn, "fileExtension", u"Extension"_s, true },
+        { FileTableModel::TypeColumn, "fileType", u"Type"_s, true },
     };
     for (const HeaderRow& row : rows) {
         EXPECT_EQ(FileTableModel::columnKey(row.column), QString::fromLatin1(row.key));
-        EXPECT_EQ(model.headerData(row.column, Qt::Horizontal).toString(), QString::fromUtf8(row.title));
+        EXPECT_EQ(model.headerData(row.column, Qt::Horizontal).toString(), row.title);
         EXPECT_EQ(FileTableModel::isSortableColumn(row.column), row.sortable) << row.key;
     }
     EXPECT_TRUE(FileTableModel::columnKey(FileTableModel::ColumnCount).isEmpty());
     EXPECT_FALSE(model.headerData(0, Qt::Vertical).isValid());
 }
 
-TEST_F(FileTableModelTest, SortsNumericallyWithoutRegardToCase)
+TEST_F(FileTableModelTest, TheIconColumnAloneHasIconsAndAMoveKeepsTheRows)
 {
-    for (const char* name : {"a10.txt", "A9.txt", "a1.txt", "b2.txt"})
-        tree.file(QStringLiteral("s/") + QString::fromLatin1(name));
-    controller.setIncludeSubFolders(true);
-    ASSERT_TRUE(addAndWait(controller, {tree.path(QStringLiteral("s"))}));
-    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
-
-    model.sort(FileTableModel::NameColumn, Qt::DescendingOrder);
-    EXPECT_EQ(listedNames(controller), QStringList({"b2.txt", "a10.txt", "A9.txt", "a1.txt"}));
-    model.sort(FileTableModel::NameColumn, Qt::AscendingOrder);
-    EXPECT_EQ(listedNames(controller), QStringList({"a1.txt", "A9.txt", "a10.txt", "b2.txt"}));
-    EXPECT_EQ(text(2, FileTableModel::NameColumn), QStringLiteral("a10.txt"));
-    EXPECT_EQ(reset.count(), 2);
-
-    model.sort(FileTableModel::IconColumn, Qt::DescendingOrder);
-    EXPECT_EQ(listedNames(controller), QStringList({"a1.txt", "A9.txt", "a10.txt", "b2.txt"}));
-    EXPECT_EQ(reset.count(), 2) << "the icon column does not sort";
-}
-
-TEST_F(FileTableModelTest, AMoveKeepsTheRowsAndChangesTheirOrder)
-{
-    for (const char* name : {"a.txt", "b.txt"})
-        tree.file(QStringLiteral("m/") + QString::fromLatin1(name));
-    controller.setIncludeSubFolders(true);
-    ASSERT_TRUE(addAndWait(controller, {tree.path(QStringLiteral("m"))}));
-    QSignalSpy layout(&model, &QAbstractItemModel::layoutChanged);
-    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
-
-    controller.moveDown({0});
-
-    EXPECT_EQ(layout.count(), 1);
-    EXPECT_EQ(reset.count(), 0);
-    EXPECT_EQ(text(0, FileTableModel::NameColumn), QStringLiteral("b.txt"));
-}
-
-TEST_F(FileTableModelTest, TheIconColumnAloneHasIcons)
-{
-    tree.file(QStringLiteral("i/a.txt"));
-    ASSERT_TRUE(addAndWait(controller, {tree.path(QStringLiteral("i/a.txt"))}));
+    listFiles({ u"a.txt"_s, u"b.txt"_s });
     const QVariant icon = model.index(0, FileTableModel::IconColumn).data(Qt::DecorationRole);
-    ASSERT_TRUE(icon.canConvert<QIcon>());
     EXPECT_FALSE(icon.value<QIcon>().isNull());
     EXPECT_FALSE(model.index(0, FileTableModel::NameColumn).data(Qt::DecorationRole).isValid());
-    EXPECT_FALSE(model.index(0, FileTableModel::IconColumn).data(Qt::DisplayRole).isValid());
     EXPECT_FALSE(model.index(5, FileTableModel::NameColumn).data().isValid());
+
+    QSignalSpy layout(&model, &QAbstractItemModel::layoutChanged);
+    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    list().moveDown({ 0 });
+    EXPECT_EQ(layout.count(), 1);
+    EXPECT_EQ(reset.count(), 0) << "the same rows in another order";
+    EXPECT_EQ(text(FileTableModel::NameColumn), u"b.txt"_s);
 }
 
-}  // namespace
+} // namespace

@@ -13,7 +13,8 @@ using namespace tavrin;
 
 namespace {
 
-const QStringList kPages = { "livepreview.html", "main.html", "pasteditems.html", "preferences.html", "undo.html" };
+const QStringList kPages
+    = { "livepreview.html", "main.html", "pasteditems.html", "preferences.html", "undo.html" };
 
 QString readAll(const QString& path)
 {
@@ -46,7 +47,8 @@ TEST_F(HelpPageTest, EveryLanguageHasEveryPageWithWorkingLinks)
     for (const QString& language : LocalizedStrings::languages()) {
         SCOPED_TRACE(language.toStdString());
         const QString folder = QStringLiteral(":/help/") + language + QLatin1Char('/');
-        EXPECT_EQ(QDir(folder).entryList(QDir::Files).join(u' ').toStdString(), kPages.join(u' ').toStdString());
+        EXPECT_EQ(
+            QDir(folder).entryList(QDir::Files).join(u' ').toStdString(), kPages.join(u' ').toStdString());
         for (const QString& page : kPages) {
             SCOPED_TRACE(page.toStdString());
             const QString html = readAll(folder + page);
@@ -57,7 +59,8 @@ TEST_F(HelpPageTest, EveryLanguageHasEveryPageWithWorkingLinks)
                 const QString targetHtml = target.isEmpty() ? html : readAll(folder + target);
                 EXPECT_FALSE(targetHtml.isEmpty()) << "broken link " << link.toStdString();
                 if (!anchor.isEmpty()) {
-                    EXPECT_TRUE(captures(targetHtml, id).contains(anchor)) << "no anchor " << link.toStdString();
+                    EXPECT_TRUE(captures(targetHtml, id).contains(anchor))
+                        << "no anchor " << link.toStdString();
                 }
             }
         }
@@ -76,7 +79,8 @@ TEST_F(HelpPageTest, CopiesThePagesOfTheCurrentLanguageSideBySide)
         EXPECT_EQ(readAll(QFileInfo(copy).dir().filePath(page)), readAll(":/help/de/" + page));
 
     LocalizedStrings::setLanguage(QStringLiteral("en"));
-    EXPECT_EQ(readAll(helpPageFile(QStringLiteral("main.html"))), readAll(QStringLiteral(":/help/en/main.html")));
+    EXPECT_EQ(
+        readAll(helpPageFile(QStringLiteral("main.html"))), readAll(QStringLiteral(":/help/en/main.html")));
     EXPECT_EQ(readAll(copy), readAll(QStringLiteral(":/help/de/main.html")));
 
     EXPECT_EQ(helpPageFile(QStringLiteral("nosuchpage.html")), QString());

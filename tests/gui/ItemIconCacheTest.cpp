@@ -45,15 +45,15 @@ TEST(ItemIconCache, EveryStatusTextChoosesItsBadge)
 {
     using Badge = ItemIconCache::Badge;
     const BadgeRow rows[] = {
-        {"", Badge::None},
-        {"proposed name.txt", Badge::None},
-        {status::NoChanges, Badge::Error},
-        {status::FileAlreadyExists, Badge::Error},
-        {status::FolderAlreadyExists, Badge::Error},
-        {status::FileNotFound, Badge::Error},
-        {status::FolderNotFound, Badge::Error},
-        {status::RenamingOk, Badge::Success},
-        {"renaming (ok)", Badge::None},
+        { "", Badge::None },
+        { "proposed name.txt", Badge::None },
+        { status::NoChanges, Badge::Error },
+        { status::FileAlreadyExists, Badge::Error },
+        { status::FolderAlreadyExists, Badge::Error },
+        { status::FileNotFound, Badge::Error },
+        { status::FolderNotFound, Badge::Error },
+        { status::RenamingOk, Badge::Success },
+        { "renaming (ok)", Badge::None },
     };
     for (const BadgeRow& row : rows)
         EXPECT_EQ(ItemIconCache::badgeFor(QString::fromUtf8(row.newFilename)), row.badge) << row.newFilename;
@@ -88,9 +88,10 @@ TEST(ItemIconCache, FoldersAndFilesLookDifferent)
     const QString file = tree.file(QStringLiteral("a.txt"));
     const QString folder = tree.folder(QStringLiteral("f"));
     ItemIconCache icons;
-    EXPECT_NE(imageOf(icons.icon(recordWithStatus(file, ""))), imageOf(icons.icon(recordWithStatus(folder, ""))));
+    EXPECT_NE(
+        imageOf(icons.icon(recordWithStatus(file, ""))), imageOf(icons.icon(recordWithStatus(folder, ""))));
     EXPECT_NE(imageOf(icons.icon(recordWithStatus(folder, ""))),
-              imageOf(icons.icon(recordWithStatus(folder, status::FolderNotFound))));
+        imageOf(icons.icon(recordWithStatus(folder, status::FolderNotFound))));
 }
 
 TEST(ItemIconCache, FilesWithTheSameExtensionShareOneIcon)
@@ -104,4 +105,4 @@ TEST(ItemIconCache, FilesWithTheSameExtensionShareOneIcon)
     EXPECT_NE(first.cacheKey(), other.cacheKey()) << "the badge is part of what is cached";
 }
 
-}  // namespace
+} // namespace

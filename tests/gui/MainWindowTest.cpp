@@ -1,62 +1,40 @@
-#include "gui/app/MainWindow.h"
+#include "GuiFixture.h"
 
 #include "core/text/LocalizedStrings.h"
-
-#include "GuiTestHelpers.h"
-#include "gui/list/FileTableModel.h"
 #include "gui/list/FileTableView.h"
 #include "gui/ui/AttachedWindow.h"
-#include "support/TempTree.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QRadioButton>
-#include <QSignalSpy>
-#include <QTest>
 #include <QToolBar>
 #include <QUrl>
-#include <gtest/gtest.h>
 
 using namespace tavrin;
-using tavrin::test::addAndWait;
-using tavrin::test::listedNames;
-using tavrin::test::TempTree;
+using namespace tavrin::test;
 
 namespace {
 
-class MainWindowTest : public ::testing::Test {
+class MainWindowTest : public WindowFixture {
 protected:
-    void SetUp() override
-    {
-        window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-    }
+    QAction* action(const char* name) const { return child<QAction>(QString::fromLatin1(name)); }
+    QString label(const char* name) const { return child<QLabel>(QString::fromLatin1(name))->text(); }
 
-    template <typename T>
-    T* child(const char* name) const
-    {
-        T* found = window.findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
-
-    QAction* action(const char* name) const { return child<QAction>(name); }
-
-    // Lists files of the given names, in that order, from one folder.
-    void listFiles(std::initializer_list<const char*> names)
+    // Lists files of the given names, in that order, the way a drop does.
+    void addFiles(const QStringList& names)
     {
         QStringList paths;
-        for (const char* name : names)
-            paths.append(tree.file(QStringLiteral("files/") + QString::fromUtf8(name)));
-        QSignalSpy finished(&controller, &TavrinAppController::addFinished);
-        window.addPaths(paths);
-        ASSERT_TRUE(finished.wait(20000));
-        ASSERT_EQ(window.tableModel()->rowCount(), static_cast<int>(names.size()));
+        for (const QString& name : names)
+            paths.append(tree.file(u"files/"_s + name));
+        ASSERT_TRUE(runAndWait(&list(), &ListController::addFinished, [&] {
+            window.addPaths(paths);
+            return true;
+        }));
+        ASSERT_EQ(window.tableModel()->rowCount(), names.size());
     }
 
     void selectRows(const QList<int>& rows)
@@ -81,286 +59,243 @@ protected:
     {
         QHeaderView* header = window.tableView()->horizontalHeader();
         const QPoint middle(header->sectionViewportPosition(section) + header->sectionSize(section) / 2,
-                            header->height() / 2);
+            header->height() / 2);
         QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, middle);
     }
-
-    TempTree tree;
-    TavrinAppController controller;
-    MainWindow window{&controller};
 };
 
 TEST_F(MainWindowTest, AnAddedFolderFillsTheTableAndTheStatusLine)
 {
-    tree.file(QStringLiteral("top/b.txt"));
-    tree.file(QStringLiteral("top/a.txt"));
-    tree.file(QStringLiteral("top/sub/c.txt"));
-    controller.setIncludeSubFolders(true);
-    QSignalSpy finished(&controller, &TavrinAppController::addFinished);
+    EXPECT_EQ(window.tableView()->emptyHint(), u"Drop files or folders here, or click Add to choose them"_s);
+    EXPECT_EQ(label("countLabel"), u"Files listed: 0"_s);
+    tree.file(u"top/b.txt"_s);
+    tree.file(u"top/sub/c.txt"_s);
+    list().setIncludeSubFolders(true);
 
-    window.addPaths({tree.path(QStringLiteral("top"))});
+    ASSERT_TRUE(runAndWait(&list(), &ListController::addFinished, [&] {
+        window.addPaths({ tree.path(u"top"_s) });
+        EXPECT_FALSE(window.tableView()->isEnabled()) << "the list is locked while a worker fills it";
+        EXPECT_TRUE(action("cancelAction")->isEnabled());
+        EXPECT_FALSE(action("removeAction")->isEnabled());
+        EXPECT_TRUE(child<QProgressBar>(u"busyIndicator"_s)->isVisible());
+        return true;
+    }));
 
-    EXPECT_FALSE(window.tableView()->isEnabled()) << "the list is locked while a worker fills it";
-    EXPECT_TRUE(action("cancelAction")->isEnabled());
-    EXPECT_FALSE(action("removeAction")->isEnabled());
-    EXPECT_TRUE(child<QProgressBar>("busyIndicator")->isVisible());
-    ASSERT_TRUE(finished.wait(20000));
-
-    const FileTableModel* model = window.tableModel();
-    ASSERT_EQ(model->rowCount(), 3);
-    EXPECT_EQ(model->index(0, FileTableModel::NameColumn).data().toString(), QStringLiteral("a.txt"));
-    EXPECT_EQ(model->index(2, FileTableModel::NameColumn).data().toString(), QStringLiteral("c.txt"));
-    EXPECT_EQ(model->index(2, FileTableModel::LocationColumn).data().toString(), tree.path(QStringLiteral("top/sub")));
+    ASSERT_EQ(window.tableModel()->rowCount(), 2);
     EXPECT_TRUE(window.tableView()->isEnabled());
     EXPECT_FALSE(action("cancelAction")->isEnabled());
-    EXPECT_FALSE(child<QProgressBar>("busyIndicator")->isVisible());
-    EXPECT_EQ(child<QLabel>("countLabel")->text(), QStringLiteral("Files listed: 3"));
-    EXPECT_TRUE(child<QLabel>("timeLabel")->text().startsWith(QStringLiteral("Loading time: ")));
+    EXPECT_FALSE(child<QProgressBar>(u"busyIndicator"_s)->isVisible());
+    EXPECT_EQ(label("countLabel"), u"Files listed: 2"_s);
+    EXPECT_TRUE(label("timeLabel").startsWith(u"Loading time: "_s));
 }
 
-TEST_F(MainWindowTest, TheEmptyListShowsAHint)
-{
-    EXPECT_EQ(window.tableView()->emptyHint(), QStringLiteral("Drop files or folders here, or click Add to choose them"));
-    EXPECT_EQ(child<QLabel>("countLabel")->text(), QStringLiteral("Files listed: 0"));
-}
+struct ModeRow {
+    const char* modeButton;
+    bool includeSubFolders;
+    bool filesShown;
+    bool foldersShown;
+    QKeySequence foldersShortcut;
+    QString countText;
+};
 
-TEST_F(MainWindowTest, ChangingTheModeEmptiesTheListAndOffersFolders)
+// The file dialog offers files or folders, so the mode decides which add command is shown
+// and which one Ctrl+O triggers.
+TEST_F(MainWindowTest, TheModeChoosesTheAddCommandsAndAChangeEmptiesTheList)
 {
-    listFiles({"a.txt", "b.txt"});
-    EXPECT_TRUE(action("addFilesAction")->isVisible());
-    EXPECT_FALSE(action("addFoldersAction")->isVisible());
+    addFiles({ u"a.txt"_s });
+    const ModeRow rows[] = {
+        { "filesModeButton", true, true, true, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O),
+            u"Files listed: 1"_s },
+        { "foldersModeButton", false, false, true, QKeySequence::Open, u"Folders listed: 0"_s },
+        { "filesModeButton", false, true, false, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O),
+            u"Files listed: 0"_s },
+    };
+    for (const ModeRow& row : rows) {
+        QTest::mouseClick(child<QRadioButton>(QString::fromLatin1(row.modeButton)), Qt::LeftButton);
+        if (child<QAbstractButton>(u"includeSubFoldersBox"_s)->isChecked() != row.includeSubFolders)
+            QTest::mouseClick(child<QAbstractButton>(u"includeSubFoldersBox"_s), Qt::LeftButton);
+        EXPECT_EQ(list().isIncludeSubFolders(), row.includeSubFolders) << row.modeButton;
+        EXPECT_EQ(action("addFilesAction")->isVisible(), row.filesShown) << row.modeButton;
+        EXPECT_EQ(action("addFoldersAction")->isVisible(), row.foldersShown) << row.modeButton;
+        EXPECT_EQ(action("addFoldersAction")->shortcut(), row.foldersShortcut) << row.modeButton;
+        EXPECT_TRUE(action("addFoldersAction")->toolTip().contains(row.foldersShortcut.toString()))
+            << row.modeButton;
+        EXPECT_EQ(label("countLabel"), row.countText);
+    }
     EXPECT_EQ(action("addFilesAction")->shortcut(), QKeySequence(QKeySequence::Open));
-
-    QTest::mouseClick(child<QRadioButton>("foldersModeButton"), Qt::LeftButton);
-
-    EXPECT_TRUE(controller.isFolders());
-    EXPECT_EQ(window.tableModel()->rowCount(), 0);
-    EXPECT_EQ(child<QLabel>("countLabel")->text(), QStringLiteral("Folders listed: 0"));
-    EXPECT_FALSE(action("addFilesAction")->isVisible());
-    EXPECT_TRUE(action("addFoldersAction")->isVisible());
-    EXPECT_EQ(action("addFoldersAction")->shortcut(), QKeySequence(QKeySequence::Open));
 }
 
-TEST_F(MainWindowTest, FilesWithSubFoldersOfferBothChoosers)
+TEST_F(MainWindowTest, RemoveWithNothingSelectedPointsAtItsButtonElseTakesTheRows)
 {
-    controller.setIncludeSubFolders(true);
-    EXPECT_TRUE(action("addFilesAction")->isVisible());
-    EXPECT_TRUE(action("addFoldersAction")->isVisible());
-    EXPECT_EQ(action("addFilesAction")->shortcut(), QKeySequence(QKeySequence::Open));
-    EXPECT_EQ(action("addFoldersAction")->shortcut(), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O));
-    EXPECT_TRUE(action("addFoldersAction")->toolTip().contains(QStringLiteral("Ctrl+Shift+O")));
-}
-
-TEST_F(MainWindowTest, RemoveWithNothingSelectedPointsAtTheRemoveButton)
-{
-    listFiles({"a.txt"});
-    auto* attached = child<AttachedWindow>("attachedWindow");
-    ASSERT_NE(attached, nullptr);
-    EXPECT_FALSE(attached->isVisible());
+    addFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s, u"d.txt"_s });
+    auto* attached = child<AttachedWindow>(u"attachedWindow"_s);
 
     action("removeAction")->trigger();
-
     EXPECT_TRUE(attached->isVisible());
-    EXPECT_EQ(attached->text(), QStringLiteral("Select the items to remove from the list first."));
-    QWidget* button = child<QToolBar>("mainToolBar")->widgetForAction(action("removeAction"));
-    EXPECT_EQ(attached->anchor(), button);
-    EXPECT_EQ(window.tableModel()->rowCount(), 1) << "nothing was removed";
+    EXPECT_EQ(attached->text(), u"Select the items to remove from the list first."_s);
+    EXPECT_EQ(attached->anchor(), child<QToolBar>(u"mainToolBar"_s)->widgetForAction(action("removeAction")));
+    EXPECT_EQ(window.tableModel()->rowCount(), 4) << "nothing was removed";
 
-    QTest::keyClick(window.tableView(), Qt::Key_Down);
-    EXPECT_FALSE(attached->isVisible()) << "the next key press dismisses the message";
-}
-
-TEST_F(MainWindowTest, RemoveTakesTheSelectedRowsAndSelectsTheNextOne)
-{
-    listFiles({"a.txt", "b.txt", "c.txt", "d.txt"});
-    selectRows({1, 2});
-
+    selectRows({ 1, 2 });
     action("removeAction")->trigger();
-
-    EXPECT_EQ(listedNames(controller), QStringList({"a.txt", "d.txt"}));
-    EXPECT_EQ(selectedRows(), QList<int>({1}));
-    EXPECT_FALSE(child<AttachedWindow>("attachedWindow")->isVisible());
-    EXPECT_EQ(child<QLabel>("countLabel")->text(), QStringLiteral("Files listed: 2"));
+    EXPECT_EQ(listedNames(), QStringList({ u"a.txt"_s, u"d.txt"_s }));
+    EXPECT_EQ(selectedRows(), QList<int>({ 1 })) << "the row that took the place of the first removed one";
+    EXPECT_FALSE(attached->isVisible());
+    EXPECT_EQ(label("countLabel"), u"Files listed: 2"_s);
 }
 
-TEST_F(MainWindowTest, MoveButtonsFollowTheSelection)
+struct MoveRow {
+    QList<int> selection;
+    bool up;
+    bool down;
+};
+
+TEST_F(MainWindowTest, MoveCommandsFollowTheSelectionAndTheSelectionFollowsTheRows)
 {
-    listFiles({"a.txt", "b.txt", "c.txt", "d.txt"});
-    struct Row {
-        QList<int> selection;
-        bool up;
-        bool down;
+    addFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s, u"d.txt"_s });
+    const MoveRow rows[] = {
+        { {}, false, false },
+        { { 0 }, false, true },
+        { { 3 }, true, false },
+        { { 1, 2 }, true, true },
+        { { 0, 3 }, false, false },
     };
-    const Row rows[] = {
-        {{}, false, false},    {{0}, false, true},    {{3}, true, false},     {{1, 2}, true, true},
-        {{0, 3}, false, false}, {{0, 1, 2}, false, true}, {{1, 3}, true, false},
-    };
-    for (const Row& row : rows) {
+    for (const MoveRow& row : rows) {
         selectRows(row.selection);
         EXPECT_EQ(action("moveUpAction")->isEnabled(), row.up) << row.selection.size();
         EXPECT_EQ(action("moveDownAction")->isEnabled(), row.down) << row.selection.size();
     }
-}
 
-TEST_F(MainWindowTest, TheSelectionFollowsTheMovedRows)
-{
-    listFiles({"a.txt", "b.txt", "c.txt", "d.txt"});
-    selectRows({0, 1});
-
+    clickHeader(FileTableModel::NameColumn);
+    selectRows({ 0, 1 });
     action("moveDownAction")->trigger();
-    EXPECT_EQ(listedNames(controller), QStringList({"c.txt", "a.txt", "b.txt", "d.txt"}));
-    EXPECT_EQ(selectedRows(), QList<int>({1, 2}));
-
     action("moveDownAction")->trigger();
-    EXPECT_EQ(selectedRows(), QList<int>({2, 3}));
+    EXPECT_EQ(listedNames(), QStringList({ u"c.txt"_s, u"d.txt"_s, u"a.txt"_s, u"b.txt"_s }));
+    EXPECT_EQ(selectedRows(), QList<int>({ 2, 3 }));
     EXPECT_FALSE(action("moveDownAction")->isEnabled());
-
-    action("moveDownAction")->trigger();
-    EXPECT_EQ(listedNames(controller), QStringList({"c.txt", "d.txt", "a.txt", "b.txt"}))
-        << "rows at the bottom stay where they are";
-
-    action("moveUpAction")->trigger();
-    EXPECT_EQ(listedNames(controller), QStringList({"c.txt", "a.txt", "b.txt", "d.txt"}));
-    EXPECT_EQ(selectedRows(), QList<int>({1, 2}));
+    EXPECT_EQ(window.tableView()->horizontalHeader()->sortIndicatorSection(), -1)
+        << "the list is no longer in the order the header shows";
 }
 
 TEST_F(MainWindowTest, AHeaderClickSortsNumericallyAndASecondClickReverses)
 {
-    listFiles({"a10.txt", "b2.txt", "A9.txt", "a1.txt"});
+    addFiles({ u"a10.txt"_s, u"b2.txt"_s, u"A9.txt"_s, u"a1.txt"_s });
     QHeaderView* header = window.tableView()->horizontalHeader();
-    EXPECT_EQ(header->sortIndicatorSection(), -1);
 
     clickHeader(FileTableModel::NameColumn);
-    EXPECT_EQ(listedNames(controller), QStringList({"a1.txt", "A9.txt", "a10.txt", "b2.txt"}));
-    EXPECT_EQ(header->sortIndicatorSection(), FileTableModel::NameColumn);
+    EXPECT_EQ(listedNames(), QStringList({ u"a1.txt"_s, u"A9.txt"_s, u"a10.txt"_s, u"b2.txt"_s }));
     EXPECT_EQ(header->sortIndicatorOrder(), Qt::AscendingOrder);
-
     clickHeader(FileTableModel::NameColumn);
-    EXPECT_EQ(listedNames(controller), QStringList({"b2.txt", "a10.txt", "A9.txt", "a1.txt"}));
-    EXPECT_EQ(header->sortIndicatorOrder(), Qt::DescendingOrder);
+    EXPECT_EQ(listedNames(), QStringList({ u"b2.txt"_s, u"a10.txt"_s, u"A9.txt"_s, u"a1.txt"_s }));
 
     clickHeader(FileTableModel::IconColumn);
-    EXPECT_EQ(listedNames(controller), QStringList({"b2.txt", "a10.txt", "A9.txt", "a1.txt"}));
+    EXPECT_EQ(listedNames(), QStringList({ u"b2.txt"_s, u"a10.txt"_s, u"A9.txt"_s, u"a1.txt"_s }));
     EXPECT_EQ(header->sortIndicatorSection(), FileTableModel::NameColumn) << "the icon column does not sort";
 }
 
-TEST_F(MainWindowTest, MovingRowsClearsTheSortIndicator)
+TEST_F(MainWindowTest, LocalFilesDroppedAreAddedInTheCurrentModeAndOtherDragsRefused)
 {
-    listFiles({"b.txt", "a.txt"});
-    clickHeader(FileTableModel::NameColumn);
-    ASSERT_EQ(window.tableView()->horizontalHeader()->sortIndicatorSection(), FileTableModel::NameColumn);
-    selectRows({0});
-
-    action("moveDownAction")->trigger();
-
-    EXPECT_EQ(window.tableView()->horizontalHeader()->sortIndicatorSection(), -1);
-    clickHeader(FileTableModel::NameColumn);
-    EXPECT_EQ(listedNames(controller), QStringList({"a.txt", "b.txt"})) << "the next click sorts ascending again";
-}
-
-TEST_F(MainWindowTest, DroppedFilesAreAddedInTheCurrentMode)
-{
-    const QString a = tree.file(QStringLiteral("drop/a.txt"));
-    const QString folder = tree.folder(QStringLiteral("drop/inner"));
-    QMimeData mime;
-    mime.setUrls({QUrl::fromLocalFile(a), QUrl::fromLocalFile(folder), QUrl(QStringLiteral("https://example.org/x"))});
+    QMimeData local;
+    local.setUrls({ QUrl::fromLocalFile(tree.file(u"drop/a.txt"_s)),
+        QUrl::fromLocalFile(tree.folder(u"drop/inner"_s)), QUrl(u"https://example.org/x"_s) });
+    QMimeData remote;
+    remote.setUrls({ QUrl(u"https://example.org/a.txt"_s) });
+    QMimeData plainText;
+    plainText.setText(u"/etc/hostname"_s);
     QWidget* viewport = window.tableView()->viewport();
     const QPoint middle = viewport->rect().center();
-
-    QDragEnterEvent enter(middle, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(viewport, &enter);
-    EXPECT_TRUE(enter.isAccepted());
-
-    QSignalSpy finished(&controller, &TavrinAppController::addFinished);
-    QDropEvent drop(QPointF(middle), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(viewport, &drop);
-    EXPECT_TRUE(drop.isAccepted());
-    ASSERT_TRUE(finished.wait(20000));
-
-    EXPECT_TRUE(controller.isFiles()) << "a drop keeps the mode";
-    EXPECT_EQ(listedNames(controller), QStringList({"a.txt"})) << "a folder in file mode is not descended into";
-}
-
-TEST_F(MainWindowTest, DragsWithoutLocalFilesAreRefused)
-{
-    QMimeData remote;
-    remote.setUrls({QUrl(QStringLiteral("https://example.org/a.txt"))});
-    QMimeData plainText;
-    plainText.setText(QStringLiteral("/etc/hostname"));
-    QWidget* viewport = window.tableView()->viewport();
-    for (QMimeData* mime : {&remote, &plainText}) {
-        QDragEnterEvent enter(viewport->rect().center(), Qt::CopyAction, mime, Qt::LeftButton, Qt::NoModifier);
+    for (QMimeData* refused : { &remote, &plainText }) {
+        QDragEnterEvent enter(middle, Qt::CopyAction, refused, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(viewport, &enter);
         EXPECT_FALSE(enter.isAccepted());
     }
+
+    QDragEnterEvent enter(middle, Qt::CopyAction, &local, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    ASSERT_TRUE(runAndWait(&list(), &ListController::addFinished, [&] {
+        QDropEvent drop(QPointF(middle), Qt::CopyAction, &local, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &drop);
+        return drop.isAccepted();
+    }));
+    EXPECT_EQ(listedNames(), QStringList({ u"a.txt"_s })) << "a folder in file mode is not descended into";
 }
 
 TEST_F(MainWindowTest, SkippedNamesAreToldOnceInTheStatusLine)
 {
-    const tavrin::test::RawFileRemover remover{tree.rawFile(QStringLiteral("raw"), QByteArray("bad\xfe.txt"))};
-    tree.file(QStringLiteral("raw/good.txt"));
-    controller.setIncludeSubFolders(true);
-    QSignalSpy finished(&controller, &TavrinAppController::addFinished);
-    window.addPaths({tree.path(QStringLiteral("raw"))});
-    ASSERT_TRUE(finished.wait(20000));
+    const RawFileRemover remover { tree.rawFile(u"raw"_s, QByteArray("bad\xfe.txt")) };
+    tree.file(u"raw/good.txt"_s);
+    list().setIncludeSubFolders(true);
+    ASSERT_TRUE(runAndWait(&list(), &ListController::addFinished, [&] {
+        window.addPaths({ tree.path(u"raw"_s) });
+        return true;
+    }));
 
-    auto* skipped = child<QLabel>("skippedLabel");
+    auto* skipped = child<QLabel>(u"skippedLabel"_s);
+    EXPECT_EQ(listedNames(), QStringList({ u"good.txt"_s }));
     EXPECT_TRUE(skipped->isVisible());
-    EXPECT_EQ(skipped->text(), QStringLiteral("1 items skipped: their names are not valid UTF-8"));
-    EXPECT_TRUE(skipped->toolTip().startsWith(tree.path(QStringLiteral("raw/bad"))));
+    EXPECT_EQ(skipped->text(), u"1 items skipped: their names are not valid UTF-8"_s);
+    EXPECT_TRUE(skipped->toolTip().startsWith(tree.path(u"raw/bad"_s)));
 
+    ASSERT_TRUE(addAndWait({ tree.path(u"raw/good.txt"_s) }));
+    EXPECT_FALSE(skipped->isVisible()) << "a clean scan tells nothing";
     action("clearAction")->trigger();
-    EXPECT_FALSE(skipped->isVisible());
-    EXPECT_TRUE(child<QLabel>("timeLabel")->text().isEmpty());
+    EXPECT_TRUE(label("timeLabel").isEmpty());
 }
 
-TEST_F(MainWindowTest, AddFilesOpensAChooserForSeveralFiles)
+struct ChooserRow {
+    const char* action;
+    QFileDialog::FileMode fileMode;
+    int multipleViews;
+};
+
+TEST_F(MainWindowTest, TheChoosersTakeSeveralItemsAndAddThem)
 {
+    list().setIncludeSubFolders(true);
+    const ChooserRow rows[] = { { "addFilesAction", QFileDialog::ExistingFiles, 0 },
+        { "addFoldersAction", QFileDialog::Directory, 2 } };
+    for (const ChooserRow& row : rows) {
+        action(row.action)->trigger();
+        auto* dialog = window.findChild<QFileDialog*>();
+        ASSERT_NE(dialog, nullptr) << row.action;
+        EXPECT_EQ(dialog->windowTitle(), u"Choose Files or Folders to Rename"_s);
+        EXPECT_EQ(dialog->fileMode(), row.fileMode);
+        EXPECT_TRUE(dialog->testOption(QFileDialog::DontResolveSymlinks));
+        EXPECT_TRUE(dialog->testOption(QFileDialog::ReadOnly)) << "the chooser makes no folders";
+        EXPECT_EQ(dialog->windowModality(), Qt::WindowModal);
+        int multiple = 0;
+        for (const QAbstractItemView* view : dialog->findChildren<QAbstractItemView*>())
+            multiple += view->selectionMode() == QAbstractItemView::ExtendedSelection ? 1 : 0;
+        EXPECT_GE(multiple, row.multipleViews) << "both the list and the detail view of Qt's own chooser";
+        dialog->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
     action("addFilesAction")->trigger();
     auto* dialog = window.findChild<QFileDialog*>();
-    ASSERT_NE(dialog, nullptr);
-    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Choose Files or Folders to Rename"));
-    EXPECT_EQ(dialog->fileMode(), QFileDialog::ExistingFiles);
-    EXPECT_TRUE(dialog->testOption(QFileDialog::DontResolveSymlinks));
-    EXPECT_TRUE(dialog->testOption(QFileDialog::ReadOnly)) << "the chooser makes no folders";
-    EXPECT_EQ(dialog->windowModality(), Qt::WindowModal);
-
-    const QString a = tree.file(QStringLiteral("chosen/a.txt"));
-    const QString b = tree.file(QStringLiteral("chosen/b.txt"));
-    QSignalSpy finished(&controller, &TavrinAppController::addFinished);
-    emit dialog->filesSelected({a, b});
-    ASSERT_TRUE(finished.wait(20000));
-    EXPECT_EQ(listedNames(controller), QStringList({"a.txt", "b.txt"}));
+    ASSERT_TRUE(runAndWait(&list(), &ListController::addFinished, [&] {
+        emit dialog->filesSelected({ tree.file(u"chosen/a.txt"_s), tree.file(u"chosen/b.txt"_s) });
+        return true;
+    }));
+    EXPECT_EQ(listedNames(), QStringList({ u"a.txt"_s, u"b.txt"_s }));
     dialog->reject();
 }
 
-TEST_F(MainWindowTest, AddFoldersLetsSeveralFoldersBeChosen)
-{
-    controller.setMode(ListMode::Folders);
-    action("addFoldersAction")->trigger();
-    auto* dialog = window.findChild<QFileDialog*>();
-    ASSERT_NE(dialog, nullptr);
-    EXPECT_EQ(dialog->fileMode(), QFileDialog::Directory);
-    EXPECT_TRUE(dialog->testOption(QFileDialog::ShowDirsOnly));
-    const QList<QAbstractItemView*> views = dialog->findChildren<QAbstractItemView*>();
-    int multiple = 0;
-    for (const QAbstractItemView* view : views)
-        multiple += view->selectionMode() == QAbstractItemView::ExtendedSelection ? 1 : 0;
-    EXPECT_GE(multiple, 2) << "both the list and the detail view of the chooser";
-    dialog->reject();
-}
-
-TEST_F(MainWindowTest, TheWindowIsTitledAndHasRoomForTheActions)
+TEST_F(MainWindowTest, TheWindowIsTitledAndEveryCommandHasAShortcutAndATooltip)
 {
     EXPECT_EQ(window.windowTitle(), localized("DEFAULT"));
     EXPECT_FALSE(window.windowIcon().isNull());
-    ASSERT_NE(window.actionArea(), nullptr);
-    for (const char* name : {"addFilesAction", "addFoldersAction", "removeAction", "clearAction", "moveUpAction",
-             "moveDownAction", "cancelAction", "undoBatchAction", "livePreviewAction", "pasteItemsAction",
-             "selectAllAction", "saveProfileAction", "preferencesAction", "helpAction", "quitAction"}) {
+    for (const char* name : { "addFilesAction", "addFoldersAction", "removeAction", "clearAction",
+             "moveUpAction", "moveDownAction", "cancelAction", "undoBatchAction", "livePreviewAction",
+             "pasteItemsAction", "selectAllAction", "saveProfileAction", "preferencesAction", "helpAction",
+             "quitAction", "previewAction", "applyAction" }) {
         EXPECT_FALSE(action(name)->toolTip().isEmpty()) << name;
         EXPECT_FALSE(action(name)->shortcut().isEmpty()) << name;
     }
+    EXPECT_EQ(action("previewAction")->shortcuts(),
+        QList<QKeySequence>({ QKeySequence(Qt::Key_F5), QKeySequence(Qt::CTRL | Qt::Key_R) }));
+    EXPECT_TRUE(action("previewAction")->toolTip().contains(u"F5"_s));
+    EXPECT_EQ(action("applyAction")->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Return));
 }
 
-}  // namespace
+} // namespace

@@ -70,6 +70,12 @@ const QuestionRow kQuestions[] = {
         "NO" },
     { "log", [](MessageBoxPrompter& p) { return p.continueWithoutLog(nullptr); }, "LOGCREATEFAILED",
         "CONTINUE", "ABORT" },
+    { "yes/no",
+        [](MessageBoxPrompter& p) {
+            return p.askYesNo(
+                nullptr, { localized("ITEMRENAMINGTITLE"), localized("UNDOFILESFOLDERSDELETECONFIRM") });
+        },
+        "UNDOFILESFOLDERSDELETECONFIRM", "YES", "NO" },
 };
 
 TEST(MessageBoxPrompter, QuestionsUseTheTextsOfTheTablesAndDefaultToGoingOn)
@@ -101,16 +107,24 @@ TEST(MessageBoxPrompter, EscapeNeverGoesOn)
     }
 }
 
-TEST(MessageBoxPrompter, AWarningHasOneOkButton)
+TEST(MessageBoxPrompter, AnAlertHasOneOkButtonAndTheIconOfItsSeverity)
 {
-    MessageBoxPrompter prompter;
-    Shown shown;
-    answerNextBox(localized("OK"), shown);
-    prompter.warn(nullptr, QStringLiteral("Missing Input"), QStringLiteral("Please enter a valid value."));
-    EXPECT_EQ(shown.title, QStringLiteral("Missing Input"));
-    EXPECT_EQ(shown.text, QStringLiteral("Please enter a valid value."));
-    EXPECT_EQ(shown.icon, QMessageBox::Warning);
-    EXPECT_EQ(shown.buttons, QStringList({ localized("OK") }));
+    const std::pair<Prompter::Severity, QMessageBox::Icon> rows[] = {
+        { Prompter::Severity::Information, QMessageBox::Information },
+        { Prompter::Severity::Warning, QMessageBox::Warning },
+        { Prompter::Severity::Critical, QMessageBox::Critical },
+    };
+    for (const auto& [severity, icon] : rows) {
+        MessageBoxPrompter prompter;
+        Shown shown;
+        answerNextBox(localized("OK"), shown);
+        prompter.alert(nullptr, severity,
+            { QStringLiteral("Missing Input"), QStringLiteral("Please enter a valid value.") });
+        EXPECT_EQ(shown.title, QStringLiteral("Missing Input"));
+        EXPECT_EQ(shown.text, QStringLiteral("Please enter a valid value."));
+        EXPECT_EQ(shown.icon, icon);
+        EXPECT_EQ(shown.buttons, QStringList({ localized("OK") }));
+    }
 }
 
 } // namespace

@@ -18,16 +18,19 @@ TEST(ClipboardPaths, TakeWhatFileManagersCopyAndAbsolutePathsAsText)
     QMimeData gnome;
     gnome.setData(QStringLiteral("x-special/gnome-copied-files"),
         "copy\nfile:///home/ann/a%20b.jpg\nfile:///home/ann/dir/\n");
-    EXPECT_EQ(pathsFromClipboard(&gnome), QStringList({QStringLiteral("/home/ann/a b.jpg"), QStringLiteral("/home/ann/dir")}));
+    EXPECT_EQ(pathsFromClipboard(&gnome),
+        QStringList({ QStringLiteral("/home/ann/a b.jpg"), QStringLiteral("/home/ann/dir") }));
 
     QMimeData uris;
-    uris.setUrls({QUrl::fromLocalFile(QStringLiteral("/x/é.txt")), QUrl(QStringLiteral("https://example.org/f")),
-        QUrl::fromLocalFile(QStringLiteral("/x/é.txt"))});
-    EXPECT_EQ(pathsFromClipboard(&uris), QStringList({QStringLiteral("/x/é.txt")})) << "remote and repeated dropped";
+    uris.setUrls({ QUrl::fromLocalFile(QStringLiteral("/x/é.txt")),
+        QUrl(QStringLiteral("https://example.org/f")), QUrl::fromLocalFile(QStringLiteral("/x/é.txt")) });
+    EXPECT_EQ(pathsFromClipboard(&uris), QStringList({ QStringLiteral("/x/é.txt") }))
+        << "remote and repeated dropped";
 
     QMimeData text;
     text.setText(QStringLiteral("/srv/photos/../a.png\n  relative/b.png\nfile:///srv/c.png\n"));
-    EXPECT_EQ(pathsFromClipboard(&text), QStringList({QStringLiteral("/srv/a.png"), QStringLiteral("/srv/c.png")}));
+    EXPECT_EQ(pathsFromClipboard(&text),
+        QStringList({ QStringLiteral("/srv/a.png"), QStringLiteral("/srv/c.png") }));
 
     QMimeData prose;
     prose.setText(QStringLiteral("just some words"));
@@ -40,12 +43,12 @@ TEST(SingleInstance, ALaterLaunchHandsItsPathsToTheRunningOne)
     TempTree tree;
     const QString name = tree.path(QStringLiteral("instance"));
     SingleInstance later(name);
-    EXPECT_FALSE(later.forwardToRunningInstance({QStringLiteral("/a")}, 200)) << "nobody is listening yet";
+    EXPECT_FALSE(later.forwardToRunningInstance({ QStringLiteral("/a") }, 200)) << "nobody is listening yet";
 
     SingleInstance running(name);
     ASSERT_TRUE(running.listen());
     QSignalSpy received(&running, &SingleInstance::pathsReceived);
-    const QStringList paths{QStringLiteral("/home/ann/é 1.jpg"), QStringLiteral("/home/ann/2.jpg")};
+    const QStringList paths { QStringLiteral("/home/ann/é 1.jpg"), QStringLiteral("/home/ann/2.jpg") };
     ASSERT_TRUE(later.forwardToRunningInstance(paths));
     ASSERT_TRUE(received.wait(5000));
     EXPECT_EQ(received.first().first().toStringList(), paths);
@@ -60,4 +63,4 @@ TEST(SingleInstance, ASocketLeftByACrashedInstanceIsTakenOver)
     EXPECT_TRUE(running.listen());
 }
 
-}  // namespace
+} // namespace

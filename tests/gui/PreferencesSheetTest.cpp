@@ -1,6 +1,6 @@
 #include "gui/app/PreferencesSheet.h"
 
-#include "support/TempTree.h"
+#include "GuiFixture.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 using namespace tavrin;
-using tavrin::test::TempTree;
+using namespace tavrin::test;
 
 namespace {
 
@@ -20,10 +20,7 @@ protected:
         original.defaultRulesFolderPath = tree.folder(QStringLiteral("Rules"));
         original.defaultProfileFolderPath = tree.folder(QStringLiteral("Profiles"));
         original.defaultLogFolderPath = tree.folder(QStringLiteral("Logs"));
-        sheet = std::make_unique<PreferencesSheet>(original);
-        sheet->setWarner([this](QWidget*, const QString& title, const QString& message) {
-            warnings.append(title + QLatin1Char('|') + message);
-        });
+        sheet = std::make_unique<PreferencesSheet>(original, &prompter);
         sheet->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(sheet.get()));
     }
@@ -37,8 +34,8 @@ protected:
 
     TempTree tree;
     Preferences original;
+    ScriptedPrompter prompter;
     std::unique_ptr<PreferencesSheet> sheet;
-    QStringList warnings;
 };
 
 TEST_F(PreferencesSheetTest, AnswersTheEditedValuesWithCleanedPaths)
@@ -49,7 +46,7 @@ TEST_F(PreferencesSheetTest, AnswersTheEditedValuesWithCleanedPaths)
     child<QCheckBox>("automaticSaveBox")->click();
     QTest::keyClick(child<QLineEdit>("rulesFolderField"), Qt::Key_Return);
 
-    EXPECT_TRUE(warnings.isEmpty()) << warnings.join(u'\n').toStdString();
+    EXPECT_TRUE(prompter.alerts.isEmpty());
     EXPECT_EQ(sheet->result(), QDialog::Accepted);
     Preferences expected = original;
     expected.automaticSaveCurrProfile = true;
@@ -72,10 +69,10 @@ TEST_F(PreferencesSheetTest, SaveRefusesAFolderThatIsNotThereAndFocusesItsField)
         auto* field = child<QLineEdit>(row.field);
         const QString before = field->text();
         field->setText(row.path);
-        warnings.clear();
+        prompter.alerts.clear();
         child<QPushButton>("saveButton")->click();
 
-        EXPECT_EQ(warnings,
+        EXPECT_EQ(prompter.alertTexts(),
             QStringList(QStringLiteral("Preferences|There is no folder at “%1”. Choose a folder "
                                        "that exists.")
                             .arg(row.path)))
@@ -90,22 +87,16 @@ TEST_F(PreferencesSheetTest, SaveRefusesAFolderThatIsNotThereAndFocusesItsField)
 TEST_F(PreferencesSheetTest, ChooserStartsAtTheFieldsFolderAndFillsIt)
 {
     const QString chosen = tree.folder(QStringLiteral("Elsewhere/Rules"));
-    QString answer = chosen + QLatin1Char('/');
-    QStringList asked;
-    sheet->setFolderChooser([&](QWidget* parent, const QString& title, const QString& start) {
-        EXPECT_EQ(parent, sheet.get());
-        asked.append(title + QLatin1Char('|') + start);
-        return answer;
-    });
-
+    prompter.chosenFile = chosen + QLatin1Char('/');
     child<QPushButton>("rulesFolderButton")->click();
     EXPECT_EQ(child<QLineEdit>("rulesFolderField")->text(), chosen);
     // A cancelled dialog answers nothing and leaves the field as it was.
-    answer.clear();
+    prompter.chosenFile.clear();
     child<QPushButton>("rulesFolderButton")->click();
     EXPECT_EQ(child<QLineEdit>("rulesFolderField")->text(), chosen);
 
-    EXPECT_EQ(asked,
+    EXPECT_EQ(prompter.choices, QList({ Prompter::Choice::Folder, Prompter::Choice::Folder }));
+    EXPECT_EQ(prompter.chooserQuestions,
         QStringList({ QStringLiteral("Choose the Folder for Rules|") + original.defaultRulesFolderPath,
             QStringLiteral("Choose the Folder for Rules|") + chosen }));
     EXPECT_EQ(sheet->preferences().defaultRulesFolderPath, chosen);

@@ -1,248 +1,204 @@
-#include "core/profiles/ProfileFile.h"
-#include "core/profiles/Tabs.h"
-#include "core/formats/KeyedArchive.h"
-#include "gui/app/DocumentOpener.h"
-#include "gui/app/LivePreview.h"
-#include "gui/app/TavrinAppController.h"
+#include "GuiFixture.h"
 
-#include "GuiTestHelpers.h"
-#include "support/TempTree.h"
+#include "core/formats/KeyedArchive.h"
+#include "core/profiles/ProfileFile.h"
+#include "core/text/LocalizedStrings.h"
+#include "gui/app/DocumentOpener.h"
+#include "gui/control/LivePreview.h"
 
 #include <QElapsedTimer>
-#include <QSignalSpy>
-#include <QTest>
-#include <gtest/gtest.h>
 
 using namespace tavrin;
-using tavrin::test::addAndWait;
-using tavrin::test::listedNames;
-using tavrin::test::TempTree;
+using namespace tavrin::test;
 
 namespace {
 
 // Every test starts as a new user would: nothing kept from an earlier run.
-class SessionTest : public ::testing::Test {
+class SessionTest : public ControllerFixture {
 protected:
-    void SetUp() override { TavrinAppController().userDefaults().clear(); }
+    SessionTest() { session().userDefaults().clear(); }
 
-    // Upper-cases names: every name changes, so a record either got a proposal or none.
-    static void chooseUpperCase(TavrinAppController& controller)
+    SessionController& session() { return controller.session(); }
+
+    int proposals() const { return static_cast<int>(newNames().size() - newNames().count(QString())); }
+
+    bool livePreviewAndWait(const std::function<bool()>& trigger)
     {
-        controller.settings().setSelectedTab(tabs::General);
-        controller.settings().chooseGeneralOption(0);
-        controller.settings().setGeneralFileNameCase(1);
+        return runAndWait(&rename(), &RenameController::livePreviewFinished, trigger);
     }
-
-    QStringList files(int count)
-    {
-        QStringList paths;
-        for (int index = 0; index < count; ++index)
-            paths.append(tree.file(QStringLiteral("item%1.txt").arg(index, 2, 10, QLatin1Char('0'))));
-        return paths;
-    }
-
-    static int proposals(const TavrinAppController& controller)
-    {
-        int count = 0;
-        for (const FileSystemItem& item : controller.shownItems())
-            count += item.newFilename().isEmpty() ? 0 : 1;
-        return count;
-    }
-
-    TempTree tree;
 };
 
 TEST_F(SessionTest, QuitThenStartGivesBackTheOptionsTheRuleChainAndTheLivePreview)
 {
-    const QVariantList rules{QVariantMap{{QStringLiteral("rule"), QStringLiteral("General")},
-        {QStringLiteral("isActive"), QStringLiteral("1")}}};
-    {
-        TavrinAppController first;
-        first.applicationDidFinishLaunching();
-        first.settings().chooseGeneralOption(4);
-        first.settings().setReplaceRemoveThis(QStringLiteral("draft"));
-        first.settings().chooseFilesOrFolders(1);
-        first.setRules(rules);
-        first.setLivePreviewCoverage(false, QStringLiteral("50"));
-        first.setLivePreview(true);
-        first.applicationShouldTerminate();
-    }
+    const QVariantList rules { QVariantMap { { u"rule"_s, u"General"_s }, { u"isActive"_s, u"1"_s } } };
+    settings().chooseGeneralOption(4);
+    settings().chooseFilesOrFolders(1);
+    session().setRules(rules);
+    rename().setLivePreviewCoverage(false, u"50"_s);
+    rename().setLivePreview(true);
+    controller.applicationShouldTerminate();
+
     TavrinAppController second;
     EXPECT_EQ(second.applicationDidFinishLaunching(), std::nullopt);
-    EXPECT_EQ(second.settings().generalOptionIndex(), 4);
     EXPECT_TRUE(second.settings().isGeneralReverseFileName());
-    EXPECT_EQ(second.settings().replaceRemoveThis(), QStringLiteral("draft"));
-    EXPECT_TRUE(second.isFolders());
-    EXPECT_EQ(second.rules(), rules);
-    EXPECT_TRUE(second.livePreview().isLivePreviewEnabled());
-    EXPECT_EQ(second.livePreview().recordLimit(), 50);
-    EXPECT_TRUE(second.currProfileFile().isEmpty());
+    EXPECT_TRUE(second.list().isFolders());
+    EXPECT_EQ(second.session().rules(), rules);
+    EXPECT_TRUE(second.rename().livePreview().isLivePreviewEnabled());
+    EXPECT_EQ(second.rename().livePreview().recordLimit(), 50);
+    EXPECT_TRUE(second.session().currProfileFile().isEmpty());
 }
 
 TEST_F(SessionTest, ADamagedRuleChainIsDroppedFromTheDefaults)
 {
-    for (const QByteArray& stored : {QByteArray("not an archive"), keyedArchive(QStringLiteral("a string"))}) {
-        TavrinAppController controller;
-        controller.userDefaults().setValue(QLatin1String(userdefaults::LastRule), stored);
+    for (const QByteArray& stored : { QByteArray("not an archive"), keyedArchive(u"a string"_s) }) {
+        session().userDefaults().setValue(QLatin1String(userdefaults::LastRule), stored);
         controller.applicationDidFinishLaunching();
-        EXPECT_TRUE(controller.rules().isEmpty());
-        EXPECT_FALSE(controller.userDefaults().contains(QLatin1String(userdefaults::LastRule)));
+        EXPECT_TRUE(session().rules().isEmpty());
+        EXPECT_FALSE(session().userDefaults().contains(QLatin1String(userdefaults::LastRule)));
     }
 }
 
 TEST_F(SessionTest, TheProfileInUseIsSavedOnQuitWhenAutomaticAndOpenedAgainAtStart)
 {
-    const QString profile = tree.path(QStringLiteral("photos.tnprofile"));
-    {
-        TavrinAppController first;
-        first.applicationDidFinishLaunching();
-        ASSERT_TRUE(first.saveProfile(profile));
-        first.settings().setInsertDeleteInsert(QStringLiteral("2024 "));
-        Preferences preferences = first.preferences();
-        preferences.automaticSaveCurrProfile = true;
-        first.setPreferences(preferences);
-        first.applicationShouldTerminate();
-    }
-    Settings saved;
-    ASSERT_EQ(loadProfileFile(saved, profile), ProfileLoadResult::Loaded);
-    EXPECT_EQ(saved.insertDeleteInsert(), QStringLiteral("2024 "));
+    const QString profile = tree.path(u"photos.tnprofile"_s);
+    ASSERT_TRUE(session().saveProfile(profile));
+    settings().setInsertDeleteInsert(u"2024 "_s);
+    Preferences preferences = session().preferences();
+    preferences.automaticSaveCurrProfile = true;
+    session().setPreferences(preferences);
+    controller.applicationShouldTerminate();
 
     TavrinAppController second;
     EXPECT_EQ(second.applicationDidFinishLaunching(), std::nullopt);
-    EXPECT_EQ(second.currProfileFile(), profile);
-    EXPECT_EQ(second.settings().insertDeleteInsert(), QStringLiteral("2024 "));
+    EXPECT_EQ(second.session().currProfileFile(), profile);
+    EXPECT_EQ(second.settings().insertDeleteInsert(), u"2024 "_s);
 }
 
 TEST_F(SessionTest, ALastProfileThatIsGoneIsForgottenAndTheLastOptionsApply)
 {
-    {
-        TavrinAppController first;
-        first.applicationDidFinishLaunching();
-        first.settings().setReplaceRemoveWith(QStringLiteral("kept"));
-        first.applicationShouldTerminate();
-    }
-    const QString gone = tree.path(QStringLiteral("gone.tnprofile"));
+    settings().setReplaceRemoveWith(u"kept"_s);
+    controller.applicationShouldTerminate();
     TavrinAppController second;
-    second.userDefaults().setValue(QLatin1String(userdefaults::LastProfile), gone);
+    second.session().userDefaults().setValue(
+        QLatin1String(userdefaults::LastProfile), tree.path(u"gone.tnprofile"_s));
     const std::optional<ProfileOutcome> failure = second.applicationDidFinishLaunching();
     ASSERT_TRUE(failure.has_value());
     EXPECT_EQ(failure->result, ProfileLoadResult::Failed);
-    EXPECT_TRUE(failure->message.contains(QStringLiteral("gone.tnprofile")));
-    EXPECT_FALSE(second.userDefaults().contains(QLatin1String(userdefaults::LastProfile)));
-    EXPECT_TRUE(second.currProfileFile().isEmpty());
-    EXPECT_EQ(second.settings().replaceRemoveWith(), QStringLiteral("kept"));
+    EXPECT_TRUE(failure->message.contains(u"gone.tnprofile"_s));
+    EXPECT_FALSE(second.session().userDefaults().contains(QLatin1String(userdefaults::LastProfile)));
+    EXPECT_EQ(second.settings().replaceRemoveWith(), u"kept"_s);
 }
 
-TEST_F(SessionTest, TwentyFilesOpenedOneByOneArriveAsOneAddInFileMode)
+TEST_F(SessionTest, NoProfileIsOpenedWhileAJobWorksOnTheList)
 {
-    TavrinAppController controller;
-    controller.setMode(ListMode::Folders);
-    DocumentOpener opener(controller);
-    QSignalSpy adds(&controller, &TavrinAppController::addFinished);
-    for (const QString& path : files(20))
-        opener.openFile(path);
-    EXPECT_TRUE(opener.isBatchPending());
-    EXPECT_EQ(controller.shownCount(), 0);
-
-    ASSERT_TRUE(adds.wait(5000));
-    QTest::qWait(2 * DocumentOpener::BatchMilliseconds);
-    EXPECT_EQ(adds.count(), 1);
-    EXPECT_EQ(controller.shownCount(), 20);
-    EXPECT_TRUE(controller.isFiles());
+    const QString profile = tree.path(u"p.tnprofile"_s);
+    ASSERT_TRUE(session().saveProfile(profile));
+    listFiles({ u"a.txt"_s });
+    chooseUpperCase();
+    ASSERT_TRUE(runAndWait(&rename(), &RenameController::previewFinished, [&] {
+        rename().preview();
+        EXPECT_EQ(session().setCurrentSettings(profile).message, localized("PROFILELOADBUSY"));
+        return true;
+    }));
 }
 
-TEST_F(SessionTest, OpenedDocumentsAreToldApartByExtension)
+TEST_F(SessionTest, FilesOpenedOneByOneArriveAsOneAddAndDocumentsAreToldApart)
 {
-    TavrinAppController controller;
-    DocumentOpener opener(controller);
+    list().setMode(ListMode::Folders);
+    DocumentOpener opener(list());
+    QSignalSpy adds(&list(), &ListController::addFinished);
     QSignalSpy rules(&opener, &DocumentOpener::ruleFileOpened);
     QSignalSpy profiles(&opener, &DocumentOpener::profileFileOpened);
-    QSignalSpy sheet(&controller, &TavrinAppController::pasteboardItemsRequested);
-    const QString file = tree.file(QStringLiteral("a.txt"));
-    const QString folder = tree.folder(QStringLiteral("shots"));
+    for (int index = 0; index < 20; ++index)
+        opener.openFile(tree.file(u"item%1.txt"_s.arg(index)));
+    opener.openFiles({ tree.path(u"Clean Up.TNRULE"_s), tree.path(u"p.tnprofile"_s) });
+    EXPECT_TRUE(opener.isBatchPending());
+    EXPECT_EQ(list().shownCount(), 0);
+    EXPECT_EQ(rules.count(), 1);
+    EXPECT_EQ(profiles.count(), 1);
 
-    opener.openFiles({tree.path(QStringLiteral("Clean Up.TNRULE")), file, tree.path(QStringLiteral("p.tnprofile")),
-        folder});
+    ASSERT_TRUE(adds.wait(kWaitMilliseconds));
+    QTest::qWait(2 * DocumentOpener::BatchMilliseconds);
+    EXPECT_EQ(adds.count(), 1);
+    EXPECT_EQ(list().shownCount(), 20);
+    EXPECT_TRUE(list().isFiles());
 
-    ASSERT_EQ(rules.count(), 1);
-    EXPECT_TRUE(rules.first().first().toString().endsWith(QStringLiteral("Clean Up.TNRULE")));
-    ASSERT_EQ(profiles.count(), 1);
     // With a folder among them, the user chooses how the items are listed.
-    ASSERT_TRUE(sheet.wait(5000));
-    EXPECT_EQ(sheet.first().first().toStringList(), QStringList({file, folder}));
-    EXPECT_EQ(controller.shownCount(), 0);
+    QSignalSpy sheet(&list(), &ListController::pasteboardItemsRequested);
+    const QStringList items { tree.file(u"a.txt"_s), tree.folder(u"shots"_s) };
+    opener.openFiles(items);
+    ASSERT_TRUE(sheet.wait(kWaitMilliseconds));
+    EXPECT_EQ(sheet.first().first().toStringList(), items);
 }
 
 TEST_F(SessionTest, RapidChangesCollapseIntoOneLivePreviewAfterTheLast)
 {
-    TavrinAppController controller;
-    ASSERT_TRUE(addAndWait(controller, files(3)));
-    chooseUpperCase(controller);
-    QSignalSpy previews(&controller, &TavrinAppController::livePreviewFinished);
-    controller.setLivePreview(true);
-    ASSERT_TRUE(previews.wait(5000));
-    previews.clear();
-
+    listFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s });
+    chooseUpperCase();
+    ASSERT_TRUE(livePreviewAndWait([&] {
+        rename().setLivePreview(true);
+        return true;
+    }));
+    QSignalSpy previews(&rename(), &RenameController::livePreviewFinished);
     QElapsedTimer sinceLastChange;
-    for (const int caseCode : {2, 3, 1}) {
-        controller.settings().setGeneralFileNameCase(caseCode);
+    for (const int caseCode : { 2, 3, 1 }) {
+        settings().setGeneralFileNameCase(caseCode);
         sinceLastChange.start();
         QTest::qWait(LivePreview::DelayMilliseconds / 10);
     }
-    ASSERT_TRUE(previews.wait(5000));
+    ASSERT_TRUE(previews.wait(kWaitMilliseconds));
     // A coarse timer may fire up to 5 % early.
     EXPECT_GE(sinceLastChange.elapsed(), LivePreview::DelayMilliseconds * 9 / 10);
     QTest::qWait(2 * LivePreview::DelayMilliseconds);
     EXPECT_EQ(previews.count(), 1);
-    EXPECT_EQ(controller.shownItems().front().newFilename(), QStringLiteral("ITEM00.txt"));
+    EXPECT_EQ(newNames().first(), u"A.txt"_s);
 }
 
+struct CoverageRow {
+    bool allFiles;
+    int proposals;
+    bool hasFilesForRenaming;
+};
+
+// A live preview that covered only part of the list cannot be renamed.
 TEST_F(SessionTest, ALimitedLivePreviewLeavesTheRestEmptyAndCannotBeRenamed)
 {
-    TavrinAppController controller;
-    ASSERT_TRUE(addAndWait(controller, files(5)));
-    chooseUpperCase(controller);
-    QSignalSpy previews(&controller, &TavrinAppController::livePreviewFinished);
-
-    controller.setLivePreviewCoverage(false, QStringLiteral("2"));
-    ASSERT_TRUE(controller.quickPreview(controller.livePreview().recordLimit()));
-    ASSERT_TRUE(previews.wait(5000));
-    EXPECT_EQ(proposals(controller), 2);
-    EXPECT_FALSE(controller.isHasFilesForRenaming());
-
-    controller.setLivePreviewCoverage(true, QStringLiteral("2"));
-    ASSERT_TRUE(controller.quickPreview(controller.livePreview().recordLimit()));
-    ASSERT_TRUE(previews.wait(5000));
-    EXPECT_EQ(proposals(controller), 5);
-    EXPECT_TRUE(controller.isHasFilesForRenaming());
+    listFiles({ u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s });
+    chooseUpperCase();
+    for (const CoverageRow& row : { CoverageRow { false, 2, false }, CoverageRow { true, 5, true } }) {
+        rename().setLivePreviewCoverage(row.allFiles, u"2"_s);
+        ASSERT_TRUE(
+            livePreviewAndWait([&] { return rename().quickPreview(rename().livePreview().recordLimit()); }));
+        EXPECT_EQ(proposals(), row.proposals);
+        EXPECT_EQ(rename().isHasFilesForRenaming(), row.hasFilesForRenaming);
+    }
 }
 
 TEST_F(SessionTest, NoLivePreviewWhenOffOrEmptyAndOneAfterAWholeProfile)
 {
-    TavrinAppController controller;
-    controller.setLivePreview(true);
-    controller.settings().setGeneralFileNameCase(2);
-    EXPECT_FALSE(controller.livePreview().isTimerActive()) << "empty list";
+    rename().setLivePreview(true);
+    settings().setGeneralFileNameCase(2);
+    EXPECT_FALSE(rename().livePreview().isTimerActive()) << "empty list";
 
-    ASSERT_TRUE(addAndWait(controller, files(2)));
-    controller.setLivePreview(false);
-    controller.settings().setGeneralFileNameCase(3);
-    EXPECT_FALSE(controller.livePreview().isTimerActive()) << "live preview off";
+    listFiles({ u"a.txt"_s, u"b.txt"_s });
+    rename().setLivePreview(false);
+    settings().setGeneralFileNameCase(3);
+    EXPECT_FALSE(rename().livePreview().isTimerActive()) << "live preview off";
 
-    const QString profile = tree.path(QStringLiteral("upper.tnprofile"));
-    chooseUpperCase(controller);
-    ASSERT_TRUE(controller.saveProfile(profile));
-    controller.settings().setGeneralFileNameCase(2);
-    controller.setLivePreview(true);
-    QSignalSpy previews(&controller, &TavrinAppController::livePreviewFinished);
-    ASSERT_TRUE(previews.wait(5000));
-    previews.clear();
-
-    ASSERT_EQ(controller.setCurrentSettings(profile).result, ProfileLoadResult::Loaded);
-    ASSERT_TRUE(previews.wait(5000));
+    const QString profile = tree.path(u"upper.tnprofile"_s);
+    chooseUpperCase();
+    ASSERT_TRUE(session().saveProfile(profile));
+    settings().setGeneralFileNameCase(2);
+    ASSERT_TRUE(livePreviewAndWait([&] {
+        rename().setLivePreview(true);
+        return true;
+    }));
+    QSignalSpy previews(&rename(), &RenameController::livePreviewFinished);
+    ASSERT_EQ(session().setCurrentSettings(profile).result, ProfileLoadResult::Loaded);
+    ASSERT_TRUE(previews.wait(kWaitMilliseconds));
     QTest::qWait(2 * LivePreview::DelayMilliseconds);
     EXPECT_EQ(previews.count(), 1);
-    EXPECT_EQ(controller.shownItems().front().newFilename(), QStringLiteral("ITEM00.txt"));
+    EXPECT_EQ(newNames().first(), u"A.txt"_s);
 }
 
-}  // namespace
+} // namespace

@@ -1,24 +1,22 @@
-tavrin_add_test(test_gui_controller GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/TavrinAppControllerTest.cpp)
-tavrin_add_test(test_gui_file_table_model GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/FileTableModelTest.cpp)
-tavrin_add_test(test_gui_item_icons GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/ItemIconCacheTest.cpp)
-tavrin_add_test(test_gui_attached_window GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/AttachedWindowTest.cpp)
-tavrin_add_test(test_gui_main_window GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/MainWindowTest.cpp)
-tavrin_add_test(test_gui_controller_rename GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/ControllerRenameTest.cpp)
-tavrin_add_test(test_gui_general_tab GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/GeneralTabTest.cpp)
-tavrin_add_test(test_gui_action_tabs GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/ActionTabsTest.cpp)
-tavrin_add_test(test_gui_message_box_prompter GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/MessageBoxPrompterTest.cpp)
-tavrin_add_test(test_gui_preview_apply GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/PreviewApplyTest.cpp)
-tavrin_add_test(test_gui_text_field_formatter GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/TextFieldFormatterTest.cpp)
-tavrin_add_test(test_gui_sequence_tab GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/SequenceTabTest.cpp)
-tavrin_add_test(test_gui_undo_sheet GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/UndoSheetTest.cpp)
-tavrin_add_test(test_gui_insert_delete_tab GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/InsertDeleteTabTest.cpp)
-tavrin_add_test(test_gui_replace_remove_tab GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/ReplaceRemoveTabTest.cpp)
-tavrin_add_test(test_gui_undo_from_window GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/UndoFromWindowTest.cpp)
-tavrin_add_test(test_gui_tab_preview GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/TabPreviewTest.cpp)
-tavrin_add_test(test_help_page SOURCES ${CMAKE_CURRENT_LIST_DIR}/HelpPageTest.cpp GUI)
-tavrin_add_test(test_gui_preferences_sheet GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/PreferencesSheetTest.cpp)
-tavrin_add_test(test_gui_live_preview_sheet GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/LivePreviewSheetTest.cpp)
-tavrin_add_test(test_gui_pasteboard_items_sheet GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/PasteboardItemsSheetTest.cpp)
-tavrin_add_test(test_gui_session GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/SessionTest.cpp)
-tavrin_add_test(test_gui_document_commands GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/DocumentCommandsTest.cpp)
-tavrin_add_test(test_gui_outside_items GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/OutsideItemsTest.cpp)
+# Three executables: linking is what takes the time here.
+tavrin_add_test(test_gui_controllers GUI SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/DocumentCommandsTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ListControllerTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/RenameControllerTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SessionTest.cpp)
+tavrin_add_test(test_gui_window GUI SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/MainWindowTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/RenameWindowTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/UndoSheetTest.cpp)
+tavrin_add_test(test_gui_widgets GUI SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/ActionTabsTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/AttachedWindowTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/FileTableModelTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/HelpPageTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ItemIconCacheTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/LivePreviewSheetTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/MessageBoxPrompterTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/OutsideItemsTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/PasteboardItemsSheetTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/PreferencesSheetTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/TextFieldFormatterTest.cpp)

@@ -39,7 +39,7 @@ QStringList absolutePathLines(const QString& text)
         if (QDir::isAbsolutePath(path))
             paths.append(QDir::cleanPath(path));
         else if (path.startsWith(QLatin1String("file://")))
-            paths.append(localPaths({QUrl(path)}));
+            paths.append(localPaths({ QUrl(path) }));
     }
     return paths;
 }

@@ -4,74 +4,42 @@
 #include "core/rules/RuleLibraryImport.h"
 #include "core/text/LocalizedStrings.h"
 #include "core/text/NameParts.h"
-#include "gui/app/TavrinAppController.h"
+#include "gui/control/SessionController.h"
 #include "gui/ui/Prompter.h"
 
-#include <QFileDialog>
 #include <QFileInfo>
+#include <QWidget>
 
 namespace tavrin {
 
-namespace {
-
-constexpr char kProfileExtension[] = ".tnprofile";
-
-QString profileFilter()
-{
-    return localized("PROFILEFILEFILTER") + QStringLiteral(" (*.tnprofile)");
-}
-
-QString chooseProfileToOpen(QWidget* parent, const QString& title, const QString& folder)
-{
-    return QFileDialog::getOpenFileName(parent, title, folder, profileFilter());
-}
-
-QString chooseProfileToSave(QWidget* parent, const QString& title, const QString& folder)
-{
-    QString path = QFileDialog::getSaveFileName(parent, title, folder, profileFilter());
-    if (!path.isEmpty() && !path.endsWith(QLatin1String(kProfileExtension), Qt::CaseInsensitive))
-        path += QLatin1String(kProfileExtension);
-    return path;
-}
-
-} // namespace
-
-DocumentCommands::DocumentCommands(TavrinAppController* controller, QWidget* window)
+DocumentCommands::DocumentCommands(SessionController* session, QWidget* window)
     : QObject(window)
-    , m_controller(controller)
+    , m_session(session)
     , m_window(window)
-    , m_openChooser(chooseProfileToOpen)
-    , m_saveChooser(chooseProfileToSave)
 {
-}
-
-void DocumentCommands::setFileChoosers(FileChooser openChooser, FileChooser saveChooser)
-{
-    m_openChooser = std::move(openChooser);
-    m_saveChooser = std::move(saveChooser);
 }
 
 void DocumentCommands::openProfile()
 {
-    const QString path = m_openChooser(
-        m_window, localized("CHOOSEPROFILETITLE"), m_controller->preferences().defaultProfileFolderPath);
+    const QString path = m_prompter->choose(m_window, Prompter::Choice::OpenProfile,
+        { localized("CHOOSEPROFILETITLE"), m_session->preferences().defaultProfileFolderPath });
     if (!path.isEmpty())
-        showProfileOutcome(m_controller->setCurrentSettings(path));
+        showProfileOutcome(m_session->setCurrentSettings(path));
 }
 
 void DocumentCommands::saveProfile()
 {
-    if (m_controller->currProfileFile().isEmpty())
+    if (m_session->currProfileFile().isEmpty())
         saveProfileAs();
     else
-        saveProfileTo(m_controller->currProfileFile());
+        saveProfileTo(m_session->currProfileFile());
 }
 
 // The save dialog has already asked before replacing a file of the chosen name.
 void DocumentCommands::saveProfileAs()
 {
-    const QString path = m_saveChooser(
-        m_window, localized("SAVEASPROFILETITLE"), m_controller->preferences().defaultProfileFolderPath);
+    const QString path = m_prompter->choose(m_window, Prompter::Choice::SaveProfile,
+        { localized("SAVEASPROFILETITLE"), m_session->preferences().defaultProfileFolderPath });
     if (!path.isEmpty())
         saveProfileTo(path);
 }
@@ -79,27 +47,27 @@ void DocumentCommands::saveProfileAs()
 void DocumentCommands::saveProfileTo(const QString& path)
 {
     QString error;
-    if (!m_controller->saveProfile(path, &error))
-        m_prompter->warn(m_window, localized("PROFILETITLE"), localized("PROFILESAVEDFAILED").arg(error));
+    if (!m_session->saveProfile(path, &error))
+        m_prompter->warn(m_window, { localized("PROFILETITLE"), localized("PROFILESAVEDFAILED").arg(error) });
 }
 
 void DocumentCommands::loadDefaultProfile()
 {
-    m_controller->loadDefaultProfile();
+    m_session->loadDefaultProfile();
 }
 
 void DocumentCommands::showProfileOutcome(const ProfileOutcome& outcome)
 {
     if (outcome.result != ProfileLoadResult::Loaded)
-        m_prompter->warn(m_window, localized("LOADPROFILETITLE"), outcome.message);
+        m_prompter->warn(m_window, { localized("LOADPROFILETITLE"), outcome.message });
 }
 
 void DocumentCommands::openProfileDocument(const QString& path)
 {
     const QString question = localized("PROFILELOADMESSAGE").arg(lastPathComponent(path));
-    if (!m_prompter->askYesNo(m_window, localized("PROFILESETTINGSFILETITLE"), question))
+    if (!m_prompter->askYesNo(m_window, { localized("PROFILESETTINGSFILETITLE"), question }))
         return;
-    showProfileOutcome(m_controller->setCurrentSettings(path));
+    showProfileOutcome(m_session->setCurrentSettings(path));
     m_window->raise();
     m_window->activateWindow();
 }
@@ -110,29 +78,29 @@ void DocumentCommands::openRuleDocument(const QString& path)
     const QString name = lastPathComponent(path);
     switch (checkRuleFile(path)) {
     case RuleFileCheck::Incompatible:
-        m_prompter->warn(m_window, title, localized("RULEINCOMPATIBLE").arg(name));
+        m_prompter->warn(m_window, { title, localized("RULEINCOMPATIBLE").arg(name) });
         return;
     case RuleFileCheck::Unreadable:
-        m_prompter->warn(m_window, title, localized("RULEUNREADABLE").arg(name));
+        m_prompter->warn(m_window, { title, localized("RULEUNREADABLE").arg(name) });
         return;
     case RuleFileCheck::Compatible:
         break;
     }
-    const QString rulesFolder = m_controller->preferences().defaultRulesFolderPath;
+    const QString rulesFolder = m_session->preferences().defaultRulesFolderPath;
     const QString libraryPath = ruleLibraryPath(rulesFolder, path);
     // A rule opened from the library itself is already there.
     if (QFileInfo(libraryPath) == QFileInfo(path)) {
-        m_prompter->inform(m_window, title, localized("RULEADDEDTOLIBRARY").arg(name));
+        m_prompter->inform(m_window, { title, localized("RULEADDEDTOLIBRARY").arg(name) });
         return;
     }
     if (pathExists(libraryPath)
-        && !m_prompter->askYesNo(m_window, title, localized("RULEALREADYEXISTS").arg(name)))
+        && !m_prompter->askYesNo(m_window, { title, localized("RULEALREADYEXISTS").arg(name) }))
         return;
     QString error;
     if (addRuleToLibrary(path, rulesFolder, &error))
-        m_prompter->inform(m_window, title, localized("RULEADDEDTOLIBRARY").arg(name));
+        m_prompter->inform(m_window, { title, localized("RULEADDEDTOLIBRARY").arg(name) });
     else
-        m_prompter->warn(m_window, title, error);
+        m_prompter->warn(m_window, { title, error });
 }
 
 } // namespace tavrin

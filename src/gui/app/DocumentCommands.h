@@ -2,14 +2,13 @@
 
 #include <QObject>
 #include <QString>
-#include <functional>
 
 class QWidget;
 
 namespace tavrin {
 
 class Prompter;
-class TavrinAppController;
+class SessionController;
 struct ProfileOutcome;
 
 // The commands that open and save profiles, and what happens to rule files and profiles
@@ -18,13 +17,9 @@ class DocumentCommands : public QObject {
     Q_OBJECT
 
 public:
-    // Chooses a file to open or a name to save under; empty when the user cancelled.
-    using FileChooser = std::function<QString(QWidget* parent, const QString& title, const QString& folder)>;
-
-    DocumentCommands(TavrinAppController* controller, QWidget* window);
+    DocumentCommands(SessionController* session, QWidget* window);
 
     void setPrompter(Prompter* prompter) { m_prompter = prompter; }
-    void setFileChoosers(FileChooser openChooser, FileChooser saveChooser);
 
     void openProfile();
     // Saves to the profile in use, or asks for a name when there is none.
@@ -44,11 +39,9 @@ public:
 private:
     void saveProfileTo(const QString& path);
 
-    TavrinAppController* m_controller;
+    SessionController* m_session;
     QWidget* m_window;
     Prompter* m_prompter = nullptr;
-    FileChooser m_openChooser;
-    FileChooser m_saveChooser;
 };
 
 } // namespace tavrin

@@ -1,7 +1,7 @@
 #include "gui/app/DocumentOpener.h"
 
 #include "core/text/NameParts.h"
-#include "gui/app/TavrinAppController.h"
+#include "gui/control/ListController.h"
 
 #include <utility>
 
@@ -11,14 +11,16 @@ namespace {
 
 bool hasExtension(const QString& path, const char* extension)
 {
-    return splitNameAndExtension(lastPathComponent(path)).extension.compare(QLatin1String(extension), Qt::CaseInsensitive) == 0;
+    return splitNameAndExtension(lastPathComponent(path))
+               .extension.compare(QLatin1String(extension), Qt::CaseInsensitive)
+        == 0;
 }
 
 } // namespace
 
-DocumentOpener::DocumentOpener(TavrinAppController& controller, QObject* parent)
+DocumentOpener::DocumentOpener(ListController& list, QObject* parent)
     : QObject(parent)
-    , m_controller(controller)
+    , m_list(list)
 {
     m_loadFilesTimer.setSingleShot(true);
     m_loadFilesTimer.setInterval(BatchMilliseconds);
@@ -33,7 +35,7 @@ void DocumentOpener::openFiles(const QStringList& paths)
 
 void DocumentOpener::openFile(const QString& path)
 {
-    if (m_controller.isExecuting() || path.isEmpty())
+    if (m_list.isExecuting() || path.isEmpty())
         return;
     if (hasExtension(path, "tnrule")) {
         emit ruleFileOpened(path);
@@ -48,7 +50,7 @@ void DocumentOpener::openFile(const QString& path)
 void DocumentOpener::loadCollectedFiles()
 {
     const QStringList paths = std::exchange(m_collectedPaths, {});
-    m_controller.loadFiles(paths);
+    m_list.loadFiles(paths);
 }
 
 } // namespace tavrin

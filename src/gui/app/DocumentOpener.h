@@ -6,7 +6,7 @@
 
 namespace tavrin {
 
-class TavrinAppController;
+class ListController;
 
 // Documents opened with the application: the paths of `tavrin FILE...`, of a second launch
 // and of a file manager's "Open With". Rule files and profiles are told apart by their
@@ -18,9 +18,9 @@ class DocumentOpener : public QObject {
 public:
     static constexpr int BatchMilliseconds = 500;
 
-    explicit DocumentOpener(TavrinAppController& controller, QObject* parent = nullptr);
+    explicit DocumentOpener(ListController& list, QObject* parent = nullptr);
 
-    // Ignored while the controller runs an operation.
+    // Ignored while a job works on the list.
     void openFile(const QString& path);
     void openFiles(const QStringList& paths);
 
@@ -33,7 +33,7 @@ signals:
 private:
     void loadCollectedFiles();
 
-    TavrinAppController& m_controller;
+    ListController& m_list;
     QTimer m_loadFilesTimer;
     QStringList m_collectedPaths;
 };

@@ -5,9 +5,10 @@
 #include "gui/app/ClipboardPaths.h"
 #include "gui/app/DocumentCommands.h"
 #include "gui/app/DocumentOpener.h"
-#include "gui/app/LivePreview.h"
 #include "gui/app/TavrinAppController.h"
+#include "gui/app/WindowActions.h"
 #include "gui/app/WindowSheets.h"
+#include "gui/control/LivePreview.h"
 #include "gui/engine/RenamePanel.h"
 #include "gui/list/FileTableModel.h"
 #include "gui/list/FileTableView.h"
@@ -23,8 +24,8 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDir>
-#include <QFileInfo>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QIcon>
 #include <QItemSelection>
@@ -48,21 +49,6 @@ namespace {
 // How many skipped paths the tooltip lists before it only counts the rest.
 constexpr int kSkippedPathsShown = 25;
 
-QIcon themeIcon(const char* name, QStyle::StandardPixmap fallback, const QStyle* style)
-{
-    return QIcon::fromTheme(QString::fromLatin1(name), style->standardIcon(fallback));
-}
-
-// Toolbar tooltips do not show the shortcut by themselves.
-void setToolTipWithShortcut(QAction* action, const char* key)
-{
-    const QKeySequence shortcut = action->shortcut();
-    QString tip = localized(key);
-    if (!shortcut.isEmpty())
-        tip += QStringLiteral(" (%1)").arg(shortcut.toString(QKeySequence::NativeText));
-    action->setToolTip(tip);
-}
-
 // The flag of the language the tables speak.
 QString flagResource(const QString& language)
 {
@@ -75,37 +61,28 @@ QString flagResource(const QString& language)
     return QStringLiteral(":/icons/flags/English_Flag.svg");
 }
 
-QAction* makeAction(QObject* parent, const char* objectName, const char* textKey, const QIcon& icon,
-                    const QKeySequence& shortcut)
-{
-    auto* action = new QAction(icon, localized(textKey), parent);
-    action->setObjectName(QString::fromLatin1(objectName));
-    action->setShortcut(shortcut);
-    return action;
-}
-
-}  // namespace
+} // namespace
 
 MainWindow::MainWindow(TavrinAppController* controller, QWidget* parent)
     : QMainWindow(parent)
     , m_controller(controller)
-    , m_model(new FileTableModel(controller, this))
+    , m_model(new FileTableModel(&controller->list(), this))
     , m_attached(new AttachedWindow(this))
     , m_prompter(std::make_unique<MessageBoxPrompter>())
-    , m_documents(new DocumentCommands(controller, this))
-    , m_opener(new DocumentOpener(*controller, this))
+    , m_documents(new DocumentCommands(&controller->session(), this))
+    , m_opener(new DocumentOpener(controller->list(), this))
     , m_sheets(new WindowSheets(controller, this))
+    , m_actions(new WindowActions(this))
 {
-    m_documents->setPrompter(m_prompter.get());
-    m_sheets->setPrompter(m_prompter.get());
     setWindowIcon(QIcon(QStringLiteral(":/icons/tavrin.svg")));
     m_attached->setObjectName(QStringLiteral("attachedWindow"));
 
-    createActions();
     createToolBar();
     setCentralWidget(createCentralArea());
-    createMenus();
+    m_actions->fillMenuBar(menuBar(), { m_renamePanel->previewAction(), m_renamePanel->applyAction() });
     createStatusArea();
+    handOutPrompter();
+    connectActions();
     connectController();
 
     modeChanged();
@@ -123,121 +100,39 @@ MainWindow::~MainWindow() = default;
 void MainWindow::setPrompter(std::unique_ptr<Prompter> prompter)
 {
     m_prompter = std::move(prompter);
+    handOutPrompter();
+}
+
+void MainWindow::handOutPrompter()
+{
     m_documents->setPrompter(m_prompter.get());
     m_sheets->setPrompter(m_prompter.get());
+    m_renamePanel->setPrompter(m_prompter.get());
 }
 
-void MainWindow::createActions()
+void MainWindow::connectActions()
 {
-    const QStyle* style = this->style();
-    m_addFilesAction = makeAction(this, "addFilesAction", "ADDFILES",
-                                  themeIcon("document-open", QStyle::SP_DialogOpenButton, style), {});
-    m_addFoldersAction = makeAction(this, "addFoldersAction", "ADDFOLDERS",
-                                    themeIcon("folder-open", QStyle::SP_DirOpenIcon, style), {});
-    m_removeAction = makeAction(this, "removeAction", "REMOVE", themeIcon("list-remove", QStyle::SP_TrashIcon, style),
-                                QKeySequence::Delete);
-    m_clearAction = makeAction(this, "clearAction", "CLEAR", themeIcon("edit-clear", QStyle::SP_DialogResetButton, style),
-                               QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Delete));
-    m_moveUpAction = makeAction(this, "moveUpAction", "MOVEUP", themeIcon("go-up", QStyle::SP_ArrowUp, style),
-                                QKeySequence(Qt::ALT | Qt::Key_Up));
-    m_moveDownAction = makeAction(this, "moveDownAction", "MOVEDOWN", themeIcon("go-down", QStyle::SP_ArrowDown, style),
-                                  QKeySequence(Qt::ALT | Qt::Key_Down));
-    m_cancelAction = makeAction(this, "cancelAction", "CANCELPROCESS",
-                                themeIcon("process-stop", QStyle::SP_BrowserStop, style), QKeySequence::Cancel);
-    m_undoAction = makeAction(this, "undoBatchAction", "UNDOBATCH", themeIcon("edit-undo", QStyle::SP_ArrowBack, style),
-                              QKeySequence::Undo);
-    m_quitAction = makeAction(this, "quitAction", "QUIT", QIcon::fromTheme(QStringLiteral("application-exit")),
-                              QKeySequence(Qt::CTRL | Qt::Key_Q));
-    m_pasteItemsAction = makeAction(this, "pasteItemsAction", "PASTEITEMS",
-        QIcon::fromTheme(QStringLiteral("edit-paste")), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V));
-    m_selectAllAction = makeAction(this, "selectAllAction", "SELECTALL",
-        QIcon::fromTheme(QStringLiteral("edit-select-all")), QKeySequence::SelectAll);
-    m_openProfileAction = makeAction(this, "openProfileAction", "OPENPROFILE",
-        QIcon::fromTheme(QStringLiteral("document-open")), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_O));
-    m_saveProfileAction = makeAction(this, "saveProfileAction", "SAVEPROFILE",
-        QIcon::fromTheme(QStringLiteral("document-save")), QKeySequence::Save);
-    m_saveProfileAsAction = makeAction(this, "saveProfileAsAction", "SAVEASPROFILE",
-        QIcon::fromTheme(QStringLiteral("document-save-as")), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
-    m_defaultProfileAction = makeAction(this, "defaultProfileAction", "DEFAULTPROFILE",
-        QIcon::fromTheme(QStringLiteral("document-new")), {});
-    m_preferencesAction = makeAction(this, "preferencesAction", "PREFERENCES",
-        QIcon::fromTheme(QStringLiteral("preferences-system")), QKeySequence(Qt::CTRL | Qt::Key_Comma));
-    m_livePreviewAction = makeAction(this, "livePreviewAction", "LIVEPREVIEWACTION",
-        QIcon(QStringLiteral(":/icons/LivePreviewOff.svg")), QKeySequence(Qt::CTRL | Qt::Key_L));
-    m_helpAction = makeAction(this, "helpAction", "HELPCONTENTS",
-        QIcon::fromTheme(QStringLiteral("help-contents")), QKeySequence::HelpContents);
-    m_aboutAction = makeAction(this, "aboutAction", "ABOUT", QIcon::fromTheme(QStringLiteral("help-about")), {});
-    m_livePreviewAction->setCheckable(true);
-    m_pasteItemsAction->setToolTip(localized("PASTEITEMSTOOLTIP"));
-
-    setToolTipWithShortcut(m_removeAction, "REMOVETOOLTIP");
-    setToolTipWithShortcut(m_clearAction, "CLEARTOOLTIP");
-    setToolTipWithShortcut(m_moveUpAction, "MOVEUPTOOLTIP");
-    setToolTipWithShortcut(m_moveDownAction, "MOVEDOWNTOOLTIP");
-    setToolTipWithShortcut(m_cancelAction, "CANCELPROCESSTOOLTIP");
-    setToolTipWithShortcut(m_undoAction, "UNDOBATCHTOOLTIP");
-
-    connect(m_addFilesAction, &QAction::triggered, this, &MainWindow::chooseFiles);
-    connect(m_addFoldersAction, &QAction::triggered, this, &MainWindow::chooseFolders);
-    connect(m_removeAction, &QAction::triggered, this, &MainWindow::removeSelected);
-    connect(m_clearAction, &QAction::triggered, this, &MainWindow::clearList);
-    connect(m_moveUpAction, &QAction::triggered, this, &MainWindow::moveSelectedUp);
-    connect(m_moveDownAction, &QAction::triggered, this, &MainWindow::moveSelectedDown);
-    connect(m_cancelAction, &QAction::triggered, m_controller, &TavrinAppController::cancelProcess);
-    connect(m_undoAction, &QAction::triggered, this, &MainWindow::openUndoSheet);
-    connect(m_quitAction, &QAction::triggered, this, &QWidget::close);
-    connect(m_pasteItemsAction, &QAction::triggered, this, &MainWindow::pasteItems);
-    connect(m_selectAllAction, &QAction::triggered, this, &MainWindow::selectAll);
-    connect(m_openProfileAction, &QAction::triggered, m_documents, &DocumentCommands::openProfile);
-    connect(m_saveProfileAction, &QAction::triggered, m_documents, &DocumentCommands::saveProfile);
-    connect(m_saveProfileAsAction, &QAction::triggered, m_documents, &DocumentCommands::saveProfileAs);
-    connect(m_defaultProfileAction, &QAction::triggered, m_documents, &DocumentCommands::loadDefaultProfile);
-    connect(m_preferencesAction, &QAction::triggered, m_sheets, &WindowSheets::openPreferences);
-    connect(m_livePreviewAction, &QAction::triggered, this, [this] {
-        // The action shows the state, not the click, until the user has chosen.
-        updateLivePreviewAction();
-        m_sheets->showLivePreview();
-    });
-    connect(m_helpAction, &QAction::triggered, this, [this] { m_sheets->showHelpPage(QStringLiteral("main.html")); });
-    connect(m_aboutAction, &QAction::triggered, m_sheets, &WindowSheets::showAbout);
-}
-
-void MainWindow::createMenus()
-{
-    QMenu* file = menuBar()->addMenu(localized("FILEMENU"));
-    file->addAction(m_addFilesAction);
-    file->addAction(m_addFoldersAction);
-    file->addSeparator();
-    file->addAction(m_openProfileAction);
-    file->addAction(m_saveProfileAction);
-    file->addAction(m_saveProfileAsAction);
-    file->addAction(m_defaultProfileAction);
-    file->addSeparator();
-    file->addAction(m_preferencesAction);
-    file->addSeparator();
-    file->addAction(m_quitAction);
-
-    QMenu* edit = menuBar()->addMenu(localized("EDITMENU"));
-    edit->addAction(m_undoAction);
-    edit->addSeparator();
-    edit->addAction(m_pasteItemsAction);
-    edit->addAction(m_selectAllAction);
-    edit->addAction(m_removeAction);
-    edit->addAction(m_clearAction);
-    edit->addSeparator();
-    edit->addAction(m_moveUpAction);
-    edit->addAction(m_moveDownAction);
-
-    QMenu* rename = menuBar()->addMenu(localized("RENAMEMENU"));
-    rename->addAction(m_renamePanel->previewAction());
-    rename->addAction(m_renamePanel->applyAction());
-    rename->addAction(m_livePreviewAction);
-    rename->addSeparator();
-    rename->addAction(m_cancelAction);
-
-    QMenu* help = menuBar()->addMenu(localized("HELPMENU"));
-    help->addAction(m_helpAction);
-    help->addAction(m_aboutAction);
+    connect(m_actions->addFiles(), &QAction::triggered, this, &MainWindow::chooseFiles);
+    connect(m_actions->addFolders(), &QAction::triggered, this, &MainWindow::chooseFolders);
+    connect(m_actions->remove(), &QAction::triggered, this, &MainWindow::removeSelected);
+    connect(m_actions->clear(), &QAction::triggered, this, &MainWindow::clearList);
+    connect(m_actions->moveUp(), &QAction::triggered, this, &MainWindow::moveSelectedUp);
+    connect(m_actions->moveDown(), &QAction::triggered, this, &MainWindow::moveSelectedDown);
+    connect(m_actions->cancel(), &QAction::triggered, &m_controller->list(), &ListController::cancelProcess);
+    connect(m_actions->undo(), &QAction::triggered, this, &MainWindow::openUndoSheet);
+    connect(m_actions->quit(), &QAction::triggered, this, &QWidget::close);
+    connect(m_actions->pasteItems(), &QAction::triggered, this, &MainWindow::pasteItems);
+    connect(m_actions->selectAll(), &QAction::triggered, this, &MainWindow::selectAll);
+    connect(m_actions->openProfile(), &QAction::triggered, m_documents, &DocumentCommands::openProfile);
+    connect(m_actions->saveProfile(), &QAction::triggered, m_documents, &DocumentCommands::saveProfile);
+    connect(m_actions->saveProfileAs(), &QAction::triggered, m_documents, &DocumentCommands::saveProfileAs);
+    connect(
+        m_actions->defaultProfile(), &QAction::triggered, m_documents, &DocumentCommands::loadDefaultProfile);
+    connect(m_actions->preferences(), &QAction::triggered, m_sheets, &WindowSheets::openPreferences);
+    connect(m_actions->livePreview(), &QAction::triggered, this, &MainWindow::toggleLivePreview);
+    connect(m_actions->help(), &QAction::triggered, this,
+        [this] { m_sheets->showHelpPage(QStringLiteral("main.html")); });
+    connect(m_actions->about(), &QAction::triggered, m_sheets, &WindowSheets::showAbout);
 }
 
 void MainWindow::createToolBar()
@@ -248,16 +143,7 @@ void MainWindow::createToolBar()
     m_toolBar->setFloatable(false);
     m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_toolBar->setContextMenuPolicy(Qt::PreventContextMenu);
-    m_toolBar->addAction(m_addFilesAction);
-    m_toolBar->addAction(m_addFoldersAction);
-    m_toolBar->addAction(m_removeAction);
-    m_toolBar->addAction(m_clearAction);
-    m_toolBar->addSeparator();
-    m_toolBar->addAction(m_moveUpAction);
-    m_toolBar->addAction(m_moveDownAction);
-    m_toolBar->addSeparator();
-    m_toolBar->addAction(m_undoAction);
-    m_toolBar->addAction(m_livePreviewAction);
+    m_actions->fillToolBar(m_toolBar);
 }
 
 QWidget* MainWindow::createCentralArea()
@@ -271,7 +157,7 @@ QWidget* MainWindow::createCentralArea()
     m_actionArea->setObjectName(QStringLiteral("actionArea"));
     auto* actionLayout = new QVBoxLayout(m_actionArea);
     actionLayout->setContentsMargins(0, 0, 0, 0);
-    m_renamePanel = new RenamePanel(m_controller, m_attached, m_cancelAction);
+    m_renamePanel = new RenamePanel(&m_controller->rename(), m_attached, m_actions->cancel());
     actionLayout->addWidget(m_renamePanel);
 
     auto* splitter = new QSplitter(Qt::Vertical);
@@ -347,37 +233,45 @@ QLabel* MainWindow::createLanguageFlag()
 
 void MainWindow::connectController()
 {
-    connect(m_controller, &TavrinAppController::executingChanged, this, &MainWindow::executingChanged);
-    connect(m_controller, &TavrinAppController::listChanged, this, &MainWindow::listChanged);
-    connect(m_controller, &TavrinAppController::modeChanged, this, &MainWindow::modeChanged);
-    connect(m_controller, &TavrinAppController::progressMessage, m_progressLabel, &ElidedLabel::setFullText);
-    connect(m_controller, &TavrinAppController::foundCountChanged, m_countLabel, &QLabel::setText);
-    connect(m_controller, &TavrinAppController::renamedCountChanged, m_countLabel, &QLabel::setText);
-    connect(m_controller, &TavrinAppController::progressChanged, this, &MainWindow::showProgress);
-    connect(m_controller, &TavrinAppController::lastActionTimeTakenChanged, m_timeLabel, &QLabel::setText);
-    connect(m_controller, &TavrinAppController::nonUtf8NamesSkipped, this, &MainWindow::showSkippedNames);
+    const ListController* list = &m_controller->list();
+    const ActivityStatus* status = &m_controller->status();
+    connect(list, &ListController::executingChanged, this, &MainWindow::executingChanged);
+    connect(list, &ListController::listChanged, this, &MainWindow::listChanged);
+    connect(list, &ListController::modeChanged, this, &MainWindow::modeChanged);
+    connect(list, &ListController::foundCountChanged, m_countLabel, &QLabel::setText);
+    connect(list, &ListController::progressChanged, this, &MainWindow::showProgress);
+    connect(list, &ListController::nonUtf8NamesSkipped, this, &MainWindow::showSkippedNames);
+    connect(
+        list, &ListController::pasteboardItemsRequested, m_sheets, &WindowSheets::openPasteboardItemsSheet);
+    connect(&m_controller->rename(), &RenameController::renamedCountChanged, m_countLabel, &QLabel::setText);
+    connect(status, &ActivityStatus::progressMessage, m_progressLabel, &ElidedLabel::setFullText);
+    connect(status, &ActivityStatus::lastActionTimeTakenChanged, m_timeLabel, &QLabel::setText);
 
-    connect(m_modeSelector, &ListModeSelector::modeChosen, m_controller, &TavrinAppController::setMode);
-    connect(m_modeSelector, &ListModeSelector::includeSubFoldersChosen, m_controller,
-            &TavrinAppController::setIncludeSubFolders);
+    connect(m_modeSelector, &ListModeSelector::modeChosen, list,
+        [this](ListMode mode) { m_controller->list().setMode(mode); });
+    connect(m_modeSelector, &ListModeSelector::includeSubFoldersChosen, list,
+        [this](bool include) { m_controller->list().setIncludeSubFolders(include); });
 
-    connect(m_controller, &TavrinAppController::currProfileFileChanged, this, &MainWindow::updateWindowTitle);
-    connect(m_controller, &TavrinAppController::pasteboardItemsRequested, m_sheets,
-        &WindowSheets::openPasteboardItemsSheet);
-    connect(&m_controller->livePreview(), &LivePreview::stateChanged, this, &MainWindow::updateLivePreviewAction);
+    connect(&m_controller->session(), &SessionController::currProfileFileChanged, this,
+        &MainWindow::updateWindowTitle);
+    connect(&m_controller->rename().livePreview(), &LivePreview::stateChanged, this,
+        &MainWindow::updateLivePreviewAction);
     connect(m_opener, &DocumentOpener::ruleFileOpened, m_documents, &DocumentCommands::openRuleDocument);
-    connect(m_opener, &DocumentOpener::profileFileOpened, m_documents, &DocumentCommands::openProfileDocument);
+    connect(
+        m_opener, &DocumentOpener::profileFileOpened, m_documents, &DocumentCommands::openProfileDocument);
 
     connect(m_table, &FileTableView::pathsDropped, this, &MainWindow::addPaths);
-    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this, &MainWindow::updateMoveActions);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        &MainWindow::updateMoveActions);
     connect(m_model, &QAbstractItemModel::layoutChanged, this, &MainWindow::updateMoveActions);
-    connect(m_table->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, &MainWindow::sortIndicatorChanged);
+    connect(m_table->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
+        &MainWindow::sortIndicatorChanged);
 }
 
 void MainWindow::addPaths(const QStringList& paths)
 {
     m_attached->hide();
-    m_controller->addFiles(paths);
+    m_controller->list().addFiles(paths);
 }
 
 QFileDialog* MainWindow::makeChooser()
@@ -438,40 +332,40 @@ void MainWindow::selectRows(const QList<int>& rows)
     }
     m_table->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     if (!rows.isEmpty())
-        m_table->selectionModel()->setCurrentIndex(m_model->index(rows.last(), FileTableModel::NameColumn),
-                                                   QItemSelectionModel::NoUpdate);
+        m_table->selectionModel()->setCurrentIndex(
+            m_model->index(rows.last(), FileTableModel::NameColumn), QItemSelectionModel::NoUpdate);
 }
 
 void MainWindow::removeSelected()
 {
     const QList<int> rows = selectedRows();
     if (rows.isEmpty()) {
-        showAttachedMessage(m_removeAction, "NOITEMSTOREMOVE");
+        showAttachedMessage(m_actions->remove(), "NOITEMSTOREMOVE");
         return;
     }
     m_attached->hide();
-    m_controller->removeRows(rows);
+    m_controller->list().removeRows(rows);
     // The row that took the place of the first removed one is the natural next target.
     const int count = m_model->rowCount();
     if (count > 0)
-        selectRows({std::min(rows.first(), count - 1)});
+        selectRows({ std::min(rows.first(), count - 1) });
     m_table->setFocus();
 }
 
 void MainWindow::clearList()
 {
     m_attached->hide();
-    m_controller->clear();
+    m_controller->list().clear();
 }
 
 void MainWindow::moveSelectedUp()
 {
-    showMovedSelection(m_controller->moveUp(selectedRows()));
+    showMovedSelection(m_controller->list().moveUp(selectedRows()));
 }
 
 void MainWindow::moveSelectedDown()
 {
-    showMovedSelection(m_controller->moveDown(selectedRows()));
+    showMovedSelection(m_controller->list().moveDown(selectedRows()));
 }
 
 void MainWindow::showMovedSelection(const QList<int>& rows)
@@ -510,10 +404,7 @@ void MainWindow::clearSortIndicator()
 
 void MainWindow::executingChanged(bool executing)
 {
-    for (QAction* action : {m_addFilesAction, m_addFoldersAction, m_removeAction, m_clearAction, m_undoAction,
-             m_pasteItemsAction, m_selectAllAction, m_openProfileAction, m_defaultProfileAction})
-        action->setEnabled(!executing);
-    m_cancelAction->setEnabled(executing);
+    m_actions->setExecuting(executing);
     m_modeSelector->setEnabled(!executing);
     m_table->setEnabled(!executing);
     m_busyIndicator->setVisible(executing);
@@ -529,44 +420,31 @@ void MainWindow::executingChanged(bool executing)
     updateMoveActions();
 }
 
-void MainWindow::showProgress(int done, int total)
+void MainWindow::showProgress(const Progress& progress)
 {
-    m_busyIndicator->setRange(0, total);
-    m_busyIndicator->setValue(done);
+    m_busyIndicator->setRange(0, progress.total);
+    m_busyIndicator->setValue(progress.done);
 }
 
 void MainWindow::listChanged()
 {
-    if (!m_controller->isExecuting())
-        m_countLabel->setText(m_controller->countText());
+    const ListController& list = m_controller->list();
+    if (!list.isExecuting())
+        m_countLabel->setText(list.countText());
     if (m_model->rowCount() == 0)
         clearSortIndicator();
-    if (m_controller->lastSkippedPaths().isEmpty())
+    if (list.lastSkippedPaths().isEmpty())
         m_skippedLabel->hide();
     updateMoveActions();
 }
 
 void MainWindow::modeChanged()
 {
-    m_modeSelector->showMode(m_controller->isFolders() ? ListMode::Folders : ListMode::Files,
-                             m_controller->isIncludeSubFolders());
-    m_countLabel->setText(m_controller->countText());
-    updateAddActions();
-}
-
-// The file dialog cannot offer files and folders at once, so each kind has its own action,
-// shown when the mode can take it; the one shown alone answers Ctrl+O.
-void MainWindow::updateAddActions()
-{
-    const bool files = m_controller->isFiles();
-    const bool folders = m_controller->isFolders() || m_controller->isIncludeSubFolders();
-    m_addFilesAction->setVisible(files);
-    m_addFoldersAction->setVisible(folders);
-    m_addFilesAction->setShortcut(files ? QKeySequence(QKeySequence::Open) : QKeySequence());
-    m_addFoldersAction->setShortcut(files ? QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O)
-                                          : QKeySequence(QKeySequence::Open));
-    setToolTipWithShortcut(m_addFilesAction, "ADDFILESTOOLTIP");
-    setToolTipWithShortcut(m_addFoldersAction, "ADDFOLDERSTOOLTIP");
+    const ListController& list = m_controller->list();
+    m_modeSelector->showMode(
+        list.isFolders() ? ListMode::Folders : ListMode::Files, list.isIncludeSubFolders());
+    m_countLabel->setText(list.countText());
+    m_actions->showListMode(list.isFiles(), list.isFolders() || list.isIncludeSubFolders());
 }
 
 void MainWindow::updateMoveActions()
@@ -577,10 +455,10 @@ void MainWindow::updateMoveActions()
         first = first < 0 ? range.top() : std::min(first, range.top());
         last = std::max(last, range.bottom());
     }
-    const bool idle = !m_controller->isExecuting();
+    const bool idle = !m_controller->list().isExecuting();
     const bool hasSelection = first >= 0;
-    m_moveUpAction->setEnabled(idle && hasSelection && first != 0);
-    m_moveDownAction->setEnabled(idle && hasSelection && last != m_model->rowCount() - 1);
+    m_actions->moveUp()->setEnabled(idle && hasSelection && first != 0);
+    m_actions->moveDown()->setEnabled(idle && hasSelection && last != m_model->rowCount() - 1);
 }
 
 void MainWindow::showSkippedNames(const QStringList& paths)
@@ -604,10 +482,12 @@ void MainWindow::showAttachedMessage(QAction* besideAction, const char* key)
 // An undo renames items the list may hold, so it waits until no batch runs.
 void MainWindow::openUndoSheet()
 {
-    if (m_controller->isExecuting())
+    if (m_controller->list().isExecuting())
         return;
     m_attached->hide();
-    auto* sheet = new UndoSheetController(m_controller, this);
+    const UndoSheetContext context { m_controller->session().logFolderPath(), &m_controller->status(),
+        m_prompter.get() };
+    auto* sheet = new UndoSheetController(context, this);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     sheet->open();
 }
@@ -615,7 +495,7 @@ void MainWindow::openUndoSheet()
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     m_attached->hide();
-    m_controller->cancelProcess();
+    m_controller->list().cancelProcess();
     m_controller->applicationShouldTerminate();
     QMainWindow::closeEvent(event);
 }
@@ -623,24 +503,27 @@ void MainWindow::closeEvent(QCloseEvent* event)
 // Qt adds the application's name to the title itself.
 void MainWindow::updateWindowTitle()
 {
-    const QString profile = m_controller->currProfileFile();
+    const QString profile = m_controller->session().currProfileFile();
     setWindowTitle(profile.isEmpty() ? localized("DEFAULT") : QFileInfo(profile).completeBaseName());
 }
 
 void MainWindow::updateLivePreviewAction()
 {
-    const bool on = m_controller->livePreview().isLivePreviewEnabled();
-    m_livePreviewAction->setChecked(on);
-    m_livePreviewAction->setIcon(QIcon(on ? QStringLiteral(":/icons/LivePreview.svg")
-                                          : QStringLiteral(":/icons/LivePreviewOff.svg")));
-    setToolTipWithShortcut(m_livePreviewAction, on ? "LIVEPREVIEWONTOOLTIP" : "LIVEPREVIEWOFFTOOLTIP");
+    m_actions->showLivePreview(m_controller->rename().livePreview().isLivePreviewEnabled());
+}
+
+// The action shows the state, not the click, until the user has chosen.
+void MainWindow::toggleLivePreview()
+{
+    updateLivePreviewAction();
+    m_sheets->showLivePreview();
 }
 
 void MainWindow::pasteItems()
 {
     const QStringList paths = pathsFromClipboard(QGuiApplication::clipboard()->mimeData());
     if (paths.isEmpty()) {
-        showAttachedMessage(m_pasteItemsAction, "NOITEMSONCLIPBOARD");
+        showAttachedMessage(m_actions->pasteItems(), "NOITEMSONCLIPBOARD");
         return;
     }
     m_opener->openFiles(paths);
@@ -652,4 +535,4 @@ void MainWindow::selectAll()
     m_table->setFocus();
 }
 
-}  // namespace tavrin
+} // namespace tavrin

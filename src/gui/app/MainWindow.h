@@ -14,6 +14,7 @@ class QToolBar;
 namespace tavrin {
 
 class AttachedWindow;
+struct Progress;
 class DocumentCommands;
 class DocumentOpener;
 class ElidedLabel;
@@ -23,6 +24,7 @@ class FileTableView;
 class ListModeSelector;
 class RenamePanel;
 class TavrinAppController;
+class WindowActions;
 class WindowSheets;
 
 // The one window: the list of items with its toolbar and status line above, and below
@@ -42,7 +44,7 @@ public:
 
     DocumentOpener* documentOpener() const { return m_opener; }
     DocumentCommands* documentCommands() const { return m_documents; }
-    // The questions and alerts of the window and its action area go through this.
+    // The questions and alerts of the window, its action area and its sheets go through this.
     void setPrompter(std::unique_ptr<Prompter> prompter);
 
     // Lists the paths in the current mode, off the GUI thread.
@@ -55,8 +57,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void createActions();
-    void createMenus();
+    void handOutPrompter();
+    void connectActions();
     void createToolBar();
     QWidget* createCentralArea();
     void createStatusArea();
@@ -78,16 +80,16 @@ private:
     void clearSortIndicator();
 
     void executingChanged(bool executing);
-    void showProgress(int done, int total);
+    void showProgress(const Progress& progress);
     void listChanged();
     void modeChanged();
-    void updateAddActions();
     void updateMoveActions();
     void showSkippedNames(const QStringList& paths);
     void showAttachedMessage(QAction* besideAction, const char* key);
     void openUndoSheet();
     void updateWindowTitle();
     void updateLivePreviewAction();
+    void toggleLivePreview();
     void selectAll();
     QLabel* createLanguageFlag();
 
@@ -103,26 +105,7 @@ private:
     DocumentCommands* m_documents;
     DocumentOpener* m_opener;
     WindowSheets* m_sheets;
-
-    QAction* m_addFilesAction = nullptr;
-    QAction* m_addFoldersAction = nullptr;
-    QAction* m_removeAction = nullptr;
-    QAction* m_clearAction = nullptr;
-    QAction* m_moveUpAction = nullptr;
-    QAction* m_moveDownAction = nullptr;
-    QAction* m_cancelAction = nullptr;
-    QAction* m_undoAction = nullptr;
-    QAction* m_quitAction = nullptr;
-    QAction* m_pasteItemsAction = nullptr;
-    QAction* m_selectAllAction = nullptr;
-    QAction* m_openProfileAction = nullptr;
-    QAction* m_saveProfileAction = nullptr;
-    QAction* m_saveProfileAsAction = nullptr;
-    QAction* m_defaultProfileAction = nullptr;
-    QAction* m_preferencesAction = nullptr;
-    QAction* m_livePreviewAction = nullptr;
-    QAction* m_helpAction = nullptr;
-    QAction* m_aboutAction = nullptr;
+    WindowActions* m_actions;
 
     QLabel* m_countLabel = nullptr;
     ElidedLabel* m_progressLabel = nullptr;
@@ -135,4 +118,4 @@ private:
     QString m_lastChosenFolder;
 };
 
-}  // namespace tavrin
+} // namespace tavrin

@@ -1,16 +1,15 @@
 #include "gui/app/PreferencesSheet.h"
 
 #include "core/text/LocalizedStrings.h"
+#include "gui/ui/Prompter.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -41,18 +40,10 @@ struct PreferencesSheet::FolderRow {
     const char* chooserTitleKey;
 };
 
-PreferencesSheet::PreferencesSheet(const Preferences& preferences, QWidget* parent)
-    : QDialog(parent)
-    , m_chooseFolder([](QWidget* owner, const QString& title, const QString& start) {
-        return QFileDialog::getExistingDirectory(owner, title, start);
-    })
-    , m_warn([](QWidget* owner, const QString& title, const QString& message) {
-        QMessageBox::warning(owner, title, message);
-    })
+PreferencesSheet::PreferencesSheet(const Preferences& preferences, Prompter* prompter, QWidget* parent)
+    : Sheet({ "preferencesSheet", kTitleKey }, parent)
+    , m_prompter(prompter)
 {
-    setObjectName(QStringLiteral("preferencesSheet"));
-    setWindowTitle(localized(kTitleKey));
-    setWindowModality(Qt::WindowModal);
 
     auto* grid = new QGridLayout;
     grid->setColumnStretch(1, 1);
@@ -108,28 +99,16 @@ QLineEdit* PreferencesSheet::addFolderRow(
 
 QDialogButtonBox* PreferencesSheet::createButtons()
 {
-    // Made inside the sheet at once, so that the default button below is the sheet's.
-    auto* box = new QDialogButtonBox(
-        QDialogButtonBox::Help | QDialogButtonBox::Cancel | QDialogButtonBox::Save, this);
-    QPushButton* help = box->button(QDialogButtonBox::Help);
-    help->setObjectName(QStringLiteral("helpButton"));
-    help->setText(localized("HELP"));
-    help->setShortcut(QKeySequence::HelpContents);
-    box->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cancelButton"));
-    box->button(QDialogButtonBox::Cancel)->setText(localized("CANCEL"));
-    QPushButton* save = box->button(QDialogButtonBox::Save);
-    save->setObjectName(QStringLiteral("saveButton"));
-    save->setText(localized("SAVE"));
-    save->setDefault(true);
+    QDialogButtonBox* box = createButtonBox(QDialogButtonBox::Cancel | QDialogButtonBox::Save);
+    box->button(QDialogButtonBox::Save)->setDefault(true);
     connect(box, &QDialogButtonBox::accepted, this, &PreferencesSheet::accept);
-    connect(box, &QDialogButtonBox::rejected, this, &PreferencesSheet::reject);
-    connect(box, &QDialogButtonBox::helpRequested, this, &PreferencesSheet::helpRequested);
     return box;
 }
 
 void PreferencesSheet::chooseFolder(QLineEdit* field, const char* titleKey)
 {
-    const QString chosen = m_chooseFolder(this, localized(titleKey), cleanedPath(field));
+    const QString chosen
+        = m_prompter->choose(this, Prompter::Choice::Folder, { localized(titleKey), cleanedPath(field) });
     if (!chosen.isEmpty())
         field->setText(QDir::cleanPath(chosen));
 }
@@ -144,16 +123,6 @@ Preferences PreferencesSheet::preferences() const
     return edited;
 }
 
-void PreferencesSheet::setFolderChooser(FolderChooser chooser)
-{
-    m_chooseFolder = std::move(chooser);
-}
-
-void PreferencesSheet::setWarner(Warner warner)
-{
-    m_warn = std::move(warner);
-}
-
 // Saving a folder that is not there would only move the failure to the next save of a
 // rule, profile or log, far from where the path was typed.
 void PreferencesSheet::accept()
@@ -161,7 +130,7 @@ void PreferencesSheet::accept()
     for (QLineEdit* field : { m_rulesField, m_profilesField, m_logsField }) {
         const QString path = cleanedPath(field);
         if (!isExistingFolder(path)) {
-            m_warn(this, localized(kTitleKey), localized("PREFERENCESFOLDERMISSING").arg(path));
+            m_prompter->warn(this, { localized(kTitleKey), localized("PREFERENCESFOLDERMISSING").arg(path) });
             field->setFocus();
             field->selectAll();
             return;

@@ -2,9 +2,9 @@
 
 #include "core/profiles/Preferences.h"
 
-#include <QDialog>
+#include "gui/ui/Sheet.h"
+
 #include <QString>
-#include <functional>
 
 class QCheckBox;
 class QDialogButtonBox;
@@ -13,30 +13,23 @@ class QLineEdit;
 
 namespace tavrin {
 
+class Prompter;
+
 // The sheet of the preferences: the folders where rules, profiles and logs are kept, and
 // whether the profile in use is saved without asking. It only edits a copy; the window
 // saves what preferences() answers once the sheet is accepted, which it is only when
 // every folder exists.
-class PreferencesSheet : public QDialog {
+class PreferencesSheet : public Sheet {
     Q_OBJECT
 
 public:
-    using FolderChooser = std::function<QString(QWidget* parent, const QString& title, const QString& start)>;
-    using Warner = std::function<void(QWidget* parent, const QString& title, const QString& message)>;
-
-    explicit PreferencesSheet(const Preferences& preferences, QWidget* parent = nullptr);
+    // The folder choosers and the alert about a folder that is not there go through `prompter`.
+    PreferencesSheet(const Preferences& preferences, Prompter* prompter, QWidget* parent = nullptr);
 
     // The values as edited, the folder paths cleaned.
     Preferences preferences() const;
 
-    // Replace the folder dialog and the warning box, so that tests answer them.
-    void setFolderChooser(FolderChooser chooser);
-    void setWarner(Warner warner);
-
     void accept() override;
-
-signals:
-    void helpRequested();
 
 private:
     struct FolderRow;
@@ -49,8 +42,7 @@ private:
     QLineEdit* m_profilesField = nullptr;
     QLineEdit* m_logsField = nullptr;
     QCheckBox* m_automaticSaveBox = nullptr;
-    FolderChooser m_chooseFolder;
-    Warner m_warn;
+    Prompter* m_prompter;
 };
 
 } // namespace tavrin

@@ -47,7 +47,8 @@ bool SingleInstance::forwardToRunningInstance(const QStringList& paths, int time
     if (!socket.waitForBytesWritten(timeoutMilliseconds))
         return false;
     socket.disconnectFromServer();
-    return socket.state() == QLocalSocket::UnconnectedState || socket.waitForDisconnected(timeoutMilliseconds);
+    return socket.state() == QLocalSocket::UnconnectedState
+        || socket.waitForDisconnected(timeoutMilliseconds);
 }
 
 bool SingleInstance::listen()

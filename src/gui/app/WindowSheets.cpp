@@ -1,18 +1,16 @@
 #include "gui/app/WindowSheets.h"
 
 #include "core/text/LocalizedStrings.h"
-#include "gui/app/LivePreview.h"
 #include "gui/app/PreferencesSheet.h"
 #include "gui/app/TavrinAppController.h"
+#include "gui/control/LivePreview.h"
 #include "gui/engine/LivePreviewSheet.h"
 #include "gui/list/PasteboardItemsSheet.h"
 #include "gui/log/HelpPage.h"
 #include "gui/ui/Prompter.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QMessageBox>
-#include <QUrl>
 
 namespace tavrin {
 
@@ -25,32 +23,37 @@ WindowSheets::WindowSheets(TavrinAppController* controller, QWidget* window)
 
 void WindowSheets::showLivePreview()
 {
-    const LivePreview& live = m_controller->livePreview();
+    RenameController& rename = m_controller->rename();
+    const LivePreview& live = rename.livePreview();
     if (live.isLivePreviewEnabled()) {
-        m_controller->setLivePreview(false);
+        rename.setLivePreview(false);
         return;
     }
     auto* sheet = new LivePreviewSheet(live.isLivePreviewAllFiles(), live.livePreviewFilesLimit(), m_window);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
-    connect(sheet, &LivePreviewSheet::helpRequested, this, [this] { showHelpPage(QStringLiteral("livepreview.html")); });
-    connect(sheet, &QDialog::accepted, this, [this, sheet] {
-        m_controller->setLivePreviewCoverage(sheet->isAllFiles(), sheet->filesLimit());
-        m_controller->setLivePreview(true);
+    connect(sheet, &LivePreviewSheet::helpRequested, this,
+        [this] { showHelpPage(QStringLiteral("livepreview.html")); });
+    connect(sheet, &QDialog::accepted, this, [&rename, sheet] {
+        rename.setLivePreviewCoverage(sheet->isAllFiles(), sheet->filesLimit());
+        rename.setLivePreview(true);
     });
     sheet->open();
 }
 
 void WindowSheets::openPreferences()
 {
-    auto* sheet = new PreferencesSheet(m_controller->preferences(), m_window);
+    SessionController& session = m_controller->session();
+    auto* sheet = new PreferencesSheet(session.preferences(), m_prompter, m_window);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
-    connect(sheet, &PreferencesSheet::helpRequested, this, [this] { showHelpPage(QStringLiteral("preferences.html")); });
-    connect(sheet, &QDialog::accepted, this, [this, sheet] {
+    connect(sheet, &PreferencesSheet::helpRequested, this,
+        [this] { showHelpPage(QStringLiteral("preferences.html")); });
+    connect(sheet, &QDialog::accepted, this, [this, &session, sheet] {
         QString error;
-        if (m_controller->applyPreferences(sheet->preferences(), &error))
-            m_prompter->inform(m_window, localized("PREFERENCESTITLE"), localized("PREFERENCESSAVEDMESSAGE"));
+        if (session.applyPreferences(sheet->preferences(), &error))
+            m_prompter->inform(
+                m_window, { localized("PREFERENCESTITLE"), localized("PREFERENCESSAVEDMESSAGE") });
         else
-            m_prompter->warn(m_window, localized("PREFERENCESTITLE"), error);
+            m_prompter->warn(m_window, { localized("PREFERENCESTITLE"), error });
     });
     sheet->open();
 }
@@ -62,7 +65,9 @@ void WindowSheets::openPasteboardItemsSheet(const QStringList& paths)
     connect(sheet, &PasteboardItemsSheet::helpRequested, this,
         [this] { showHelpPage(QStringLiteral("pasteditems.html")); });
     connect(sheet, &QDialog::accepted, this, [this, sheet] {
-        m_controller->addPastedItems(sheet->paths(), sheet->isFolders(), sheet->isIncludeSubFolders());
+        const ListChoice choice { sheet->isFolders() ? ListMode::Folders : ListMode::Files,
+            sheet->isIncludeSubFolders() };
+        m_controller->list().addPastedItems(sheet->paths(), choice);
     });
     sheet->open();
 }
@@ -70,13 +75,14 @@ void WindowSheets::openPasteboardItemsSheet(const QStringList& paths)
 void WindowSheets::showHelpPage(const QString& page)
 {
     const QString file = helpPageFile(page);
-    if (file.isEmpty() || !QDesktopServices::openUrl(QUrl::fromLocalFile(file)))
-        m_prompter->warn(m_window, localized("HELP"), localized("HELPUNAVAILABLE"));
+    if (file.isEmpty() || !m_prompter->openWithDesktop(file))
+        m_prompter->warn(m_window, { localized("HELP"), localized("HELPUNAVAILABLE") });
 }
 
 void WindowSheets::showAbout()
 {
-    QMessageBox::about(m_window, localized("APPTITLE"), localized("ABOUTTEXT").arg(QApplication::applicationVersion()));
+    QMessageBox::about(
+        m_window, localized("APPTITLE"), localized("ABOUTTEXT").arg(QApplication::applicationVersion()));
 }
 
 } // namespace tavrin

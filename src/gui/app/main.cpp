@@ -32,13 +32,13 @@ QStringList parsePaths(const QApplication& app)
     parser.setApplicationDescription(tavrin::localized("APPTITLE"));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("paths"), tavrin::localized("COMMANDLINEPATHS"),
-                                 QStringLiteral("[PATH...]"));
+    parser.addPositionalArgument(
+        QStringLiteral("paths"), tavrin::localized("COMMANDLINEPATHS"), QStringLiteral("[PATH...]"));
     parser.process(app);
     return absolutePaths(parser.positionalArguments());
 }
 
-}  // namespace
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -69,19 +69,21 @@ int main(int argc, char** argv)
     tavrin::recoverInterruptedLogs(support.preferences.defaultLogFolderPath);
 
     tavrin::TavrinAppController controller;
-    controller.setPreferences(support.preferences);
-    const std::optional<tavrin::ProfileOutcome> lastProfileFailure = controller.applicationDidFinishLaunching();
+    controller.session().setPreferences(support.preferences);
+    const std::optional<tavrin::ProfileOutcome> lastProfileFailure
+        = controller.applicationDidFinishLaunching();
     tavrin::MainWindow window(&controller);
     window.show();
     if (lastProfileFailure)
         window.documentCommands()->showProfileOutcome(*lastProfileFailure);
 
     instance.listen();
-    QObject::connect(&instance, &tavrin::SingleInstance::pathsReceived, &window, [&window](const QStringList& received) {
-        window.documentOpener()->openFiles(received);
-        window.raise();
-        window.activateWindow();
-    });
+    QObject::connect(
+        &instance, &tavrin::SingleInstance::pathsReceived, &window, [&window](const QStringList& received) {
+            window.documentOpener()->openFiles(received);
+            window.raise();
+            window.activateWindow();
+        });
     window.documentOpener()->openFiles(paths);
     return app.exec();
 }

@@ -46,8 +46,8 @@ void ActionTabs::currentPageChanged(int index)
         m_settings.setSelectedTab(tabNumber.toInt());
 }
 
-// The settings (a profile, the last session) name the tab they were saved on. When this window has no such page, the setting
-// goes back to the visible page: a preview must never run an action the user cannot see.
+// The settings (a profile, the last session) name the tab they were saved on. When this window has no such
+// page, the setting goes back to the visible page: a preview must never run an action the user cannot see.
 void ActionTabs::showSelectedTab()
 {
     if (ActionTab* page = pageForTab(m_settings.selectedTab()))

@@ -54,22 +54,20 @@ QComboBox* GeneralTab::makeCaseChooser(const char* optionKey)
             { "PROPERCASE", lettercase::Proper } });
 }
 
-QLineEdit* GeneralTab::makeTextField(
-    const char* optionKey, const char* placeholderKey, int width, TextFieldFormatter::Kind kind)
+QLineEdit* GeneralTab::makeTextField(const KeyedInput& input, int width, TextFieldFormatter::Kind kind)
 {
-    QLineEdit* field = m_binder->textField(optionKey, placeholderKey, kind);
+    QLineEdit* field = m_binder->textField(input, kind);
     field->setFixedWidth(width);
     return field;
 }
 
-void GeneralTab::addOption(
-    int index, const char* labelKey, const char* toolTipKey, const QList<QWidget*>& inputs)
+void GeneralTab::addOption(int index, const ChoiceText& text, const QList<QWidget*>& inputs)
 {
-    QRadioButton* button
-        = m_binder->radioButton(m_options, index, QStringLiteral("generalOption%1").arg(index), labelKey);
+    QRadioButton* button = m_binder->radioButton(
+        m_options, index, QStringLiteral("generalOption%1").arg(index), text.labelKey);
     // Screen readers name an input after the words before it: the option's label, or the
     // word between two inputs ("occurrence").
-    OptionBinder::describeRow(QList<QWidget*> { button } + inputs, localized(toolTipKey));
+    OptionBinder::describeRow(QList<QWidget*> { button } + inputs, localized(text.toolTipKey));
 
     auto* inputRow = new QHBoxLayout;
     inputRow->setSpacing(6);
@@ -96,30 +94,30 @@ void GeneralTab::buildLayout()
         return m_binder->numberField(optionKey, TextFieldFormatter::Kind::PositiveNumber);
     };
 
-    addOption(ConvertFilenameCase, "GENERALCONVERTNAME", "GENERALCONVERTNAMETIP",
+    addOption(ConvertFilenameCase, { "GENERALCONVERTNAME", "GENERALCONVERTNAMETIP" },
         { makeCaseChooser("generalFileNameCase") });
-    addOption(ConvertExtensionCase, "GENERALCONVERTEXTENSION", "GENERALCONVERTEXTENSIONTIP",
+    addOption(ConvertExtensionCase, { "GENERALCONVERTEXTENSION", "GENERALCONVERTEXTENSIONTIP" },
         { makeCaseChooser("generalExtensionCase") });
-    addOption(RemoveExtension, "GENERALREMOVEEXTENSION", "GENERALREMOVEEXTENSIONTIP", {});
-    addOption(ChangeExtension, "GENERALCHANGEEXTENSION", "GENERALCHANGEEXTENSIONTIP",
-        { makeTextField("generalChangeExtension", "GENERALEXTENSIONPLACEHOLDER", kTextField) });
-    addOption(ReverseFilename, "GENERALREVERSE", "GENERALREVERSETIP", {});
-    addOption(RemoveSpaces, "GENERALREMOVESPACES", "GENERALREMOVESPACESTIP", {});
-    addOption(SwapBySeperator, "GENERALSWAPSEPARATOR", "GENERALSWAPSEPARATORTIP",
-        { makeTextField("generalSwapSeperator", "GENERALSEPARATORPLACEHOLDER", kNarrowField) });
-    addOption(SwapByPosition, "GENERALSWAPPOSITION", "GENERALSWAPPOSITIONTIP",
+    addOption(RemoveExtension, { "GENERALREMOVEEXTENSION", "GENERALREMOVEEXTENSIONTIP" }, {});
+    addOption(ChangeExtension, { "GENERALCHANGEEXTENSION", "GENERALCHANGEEXTENSIONTIP" },
+        { makeTextField({ "generalChangeExtension", "GENERALEXTENSIONPLACEHOLDER" }, kTextField) });
+    addOption(ReverseFilename, { "GENERALREVERSE", "GENERALREVERSETIP" }, {});
+    addOption(RemoveSpaces, { "GENERALREMOVESPACES", "GENERALREMOVESPACESTIP" }, {});
+    addOption(SwapBySeperator, { "GENERALSWAPSEPARATOR", "GENERALSWAPSEPARATORTIP" },
+        { makeTextField({ "generalSwapSeperator", "GENERALSEPARATORPLACEHOLDER" }, kNarrowField) });
+    addOption(SwapByPosition, { "GENERALSWAPPOSITION", "GENERALSWAPPOSITIONTIP" },
         { numberField("generalSwapPosition") });
-    addOption(RemoveAfterString, "GENERALREMOVEAFTER", "GENERALREMOVEAFTERTIP",
-        { makeTextField("generalRemoveAfterString", "GENERALTEXTPLACEHOLDER", kTextField), occurrenceLabel(),
-            numberField("generalRemoveAfterStringOccurrence") });
-    addOption(RemoveFromString, "GENERALREMOVEFROM", "GENERALREMOVEFROMTIP",
-        { makeTextField("generalRemoveFromString", "GENERALTEXTPLACEHOLDER", kTextField), occurrenceLabel(),
-            numberField("generalRemoveFromStringOccurrence") });
-    addOption(FilenameMask, "GENERALMASK", "GENERALMASKTIP",
-        { makeTextField("generalFilenameMask", "GENERALMASKPLACEHOLDER", kTextField) });
-    addOption(ConvertWindowsCompatible, "GENERALWINDOWS", "GENERALWINDOWSTIP",
-        { makeTextField("generalConvertWindowsCompatibleString", "GENERALWINDOWSPLACEHOLDER", kNarrowField,
-            TextFieldFormatter::Kind::SafeCharacters) });
+    addOption(RemoveAfterString, { "GENERALREMOVEAFTER", "GENERALREMOVEAFTERTIP" },
+        { makeTextField({ "generalRemoveAfterString", "GENERALTEXTPLACEHOLDER" }, kTextField),
+            occurrenceLabel(), numberField("generalRemoveAfterStringOccurrence") });
+    addOption(RemoveFromString, { "GENERALREMOVEFROM", "GENERALREMOVEFROMTIP" },
+        { makeTextField({ "generalRemoveFromString", "GENERALTEXTPLACEHOLDER" }, kTextField),
+            occurrenceLabel(), numberField("generalRemoveFromStringOccurrence") });
+    addOption(FilenameMask, { "GENERALMASK", "GENERALMASKTIP" },
+        { makeTextField({ "generalFilenameMask", "GENERALMASKPLACEHOLDER" }, kTextField) });
+    addOption(ConvertWindowsCompatible, { "GENERALWINDOWS", "GENERALWINDOWSTIP" },
+        { makeTextField({ "generalConvertWindowsCompatibleString", "GENERALWINDOWSPLACEHOLDER" },
+            kNarrowField, TextFieldFormatter::Kind::SafeCharacters) });
 
     m_grid->setColumnMinimumWidth(kColumnsPerOption, kColumnGap);
     m_grid->setColumnStretch(1, 1);

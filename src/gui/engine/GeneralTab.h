@@ -13,6 +13,9 @@ class QLineEdit;
 
 namespace tavrin {
 
+struct ChoiceText;
+struct KeyedInput;
+
 class OptionBinder;
 class Settings;
 
@@ -31,9 +34,9 @@ public:
 private:
     void buildLayout();
     QComboBox* makeCaseChooser(const char* optionKey);
-    QLineEdit* makeTextField(const char* optionKey, const char* placeholderKey, int width,
-        TextFieldFormatter::Kind kind = TextFieldFormatter::Kind::Text);
-    void addOption(int index, const char* labelKey, const char* toolTipKey, const QList<QWidget*>& inputs);
+    QLineEdit* makeTextField(
+        const KeyedInput& input, int width, TextFieldFormatter::Kind kind = TextFieldFormatter::Kind::Text);
+    void addOption(int index, const ChoiceText& text, const QList<QWidget*>& inputs);
     void refreshFromSettings();
 
     Settings& m_settings;

@@ -91,7 +91,7 @@ QGroupBox* InsertDeleteTab::makeInsertGroup()
         [](const Settings& settings) { return settings.insertDeleteInsertOptionIndex(); });
 
     auto* textLabel = new QLabel(localized("INSERTTEXT"));
-    QLineEdit* text = m_binder->textField(Settings::insertDeleteInsertKey, "INSERTTEXTPLACEHOLDER");
+    QLineEdit* text = m_binder->textField({ Settings::insertDeleteInsertKey, "INSERTTEXTPLACEHOLDER" });
     textLabel->setBuddy(text);
     OptionBinder::describeRow({ textLabel, text }, localized("INSERTTEXTTIP"));
     grid->addWidget(textLabel, 0, 0);
@@ -100,18 +100,18 @@ QGroupBox* InsertDeleteTab::makeInsertGroup()
     const auto occurrenceWord = [] { return new QLabel(localized("OCCURRENCE")); };
     const auto occurrence
         = [this](const char* key) { return m_binder->numberField(key, Kind::PositiveNumber); };
-    const auto anchor = [this](const char* key) { return m_binder->textField(key, "ANCHORPLACEHOLDER"); };
+    const auto anchor = [this](const char* key) { return m_binder->textField({ key, "ANCHORPLACEHOLDER" }); };
 
-    addPlace(grid, AtBeginning, 1, kLeftPlaces, "INSERTATBEGINNING", "INSERTATBEGINNINGTIP", {});
-    addPlace(grid, AtEnd, 2, kLeftPlaces, "INSERTATEND", "INSERTATENDTIP", {});
-    addPlace(grid, AtPosition, 3, kLeftPlaces, "INSERTATPOSITION", "INSERTATPOSITIONTIP",
+    addPlace(grid, AtBeginning, { 1, kLeftPlaces }, { "INSERTATBEGINNING", "INSERTATBEGINNINGTIP" }, {});
+    addPlace(grid, AtEnd, { 2, kLeftPlaces }, { "INSERTATEND", "INSERTATENDTIP" }, {});
+    addPlace(grid, AtPosition, { 3, kLeftPlaces }, { "INSERTATPOSITION", "INSERTATPOSITIONTIP" },
         { m_binder->numberField(Settings::insertDeleteAtCharacterPositionsKey, Kind::PositiveNumber),
             m_binder->directionChoice(Settings::insertDeleteInsertAtPostionDirectionKey,
                 insertdirection::FromStart, insertdirection::FromEnd) });
-    addPlace(grid, BeforeText, 1, kRightPlaces, "INSERTBEFORE", "INSERTBEFORETIP",
+    addPlace(grid, BeforeText, { 1, kRightPlaces }, { "INSERTBEFORE", "INSERTBEFORETIP" },
         { anchor(Settings::insertDeleteInsertAtBeforeTextKey), occurrenceWord(),
             occurrence(Settings::insertDeleteInsertAtBeforeOccurrenceKey) });
-    addPlace(grid, AfterText, 2, kRightPlaces, "INSERTAFTER", "INSERTAFTERTIP",
+    addPlace(grid, AfterText, { 2, kRightPlaces }, { "INSERTAFTER", "INSERTAFTERTIP" },
         { anchor(Settings::insertDeleteInsertAtAfterTextKey), occurrenceWord(),
             occurrence(Settings::insertDeleteInsertAtAfterOccurrenceKey) });
 
@@ -121,19 +121,19 @@ QGroupBox* InsertDeleteTab::makeInsertGroup()
     return m_insertGroup;
 }
 
-void InsertDeleteTab::addPlace(QGridLayout* grid, int place, int row, int column, const char* labelKey,
-    const char* toolTipKey, const QList<QWidget*>& inputs)
+void InsertDeleteTab::addPlace(
+    QGridLayout* grid, int place, GridCell cell, const ChoiceText& text, const QList<QWidget*>& inputs)
 {
     QRadioButton* button
-        = m_binder->radioButton(m_places, place, QStringLiteral("insertPlace%1").arg(place), labelKey);
-    OptionBinder::describeRow(QList<QWidget*> { button } + inputs, localized(toolTipKey));
-    grid->addWidget(button, row, column);
+        = m_binder->radioButton(m_places, place, QStringLiteral("insertPlace%1").arg(place), text.labelKey);
+    OptionBinder::describeRow(QList<QWidget*> { button } + inputs, localized(text.toolTipKey));
+    grid->addWidget(button, cell.row, cell.column);
     // An anchor text takes the room the row has; numbers are as wide as their digits anyway.
     auto* inputRow = new QHBoxLayout;
     inputRow->setSpacing(6);
     for (QWidget* input : inputs)
         inputRow->addWidget(input, qobject_cast<QLineEdit*>(input) ? 1 : 0);
-    grid->addLayout(inputRow, row, column + 1);
+    grid->addLayout(inputRow, cell.row, cell.column + 1);
     m_inputsOfPlace.insert(place, inputs);
 }
 

@@ -12,6 +12,9 @@ class QLayout;
 
 namespace tavrin {
 
+struct ChoiceText;
+struct KeyedInput;
+
 class OptionBinder;
 class Settings;
 
@@ -30,8 +33,14 @@ private:
     QLayout* makeModeRow();
     QGroupBox* makeInsertGroup();
     QGroupBox* makeDeleteGroup();
-    void addPlace(QGridLayout* grid, int place, int row, int column, const char* labelKey,
-        const char* toolTipKey, const QList<QWidget*>& inputs);
+    // Where a place goes in the grid.
+    struct GridCell {
+        int row;
+        int column;
+    };
+
+    void addPlace(
+        QGridLayout* grid, int place, GridCell cell, const ChoiceText& text, const QList<QWidget*>& inputs);
     void refreshFromSettings();
     void enableChosenInputs();
 

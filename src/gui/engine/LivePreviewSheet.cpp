@@ -7,7 +7,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
@@ -20,11 +19,8 @@ constexpr int kLimitDigits = 6;
 } // namespace
 
 LivePreviewSheet::LivePreviewSheet(bool allFiles, const QString& limit, QWidget* parent)
-    : QDialog(parent)
+    : Sheet({ "livePreviewSheet", "LIVEPREVIEWTITLE" }, parent)
 {
-    setObjectName(QStringLiteral("livePreviewSheet"));
-    setWindowTitle(localized("LIVEPREVIEWTITLE"));
-    setWindowModality(Qt::WindowModal);
 
     auto* intro = new QLabel(localized("LIVEPREVIEWINTRO"));
     intro->setObjectName(QStringLiteral("livePreviewIntro"));
@@ -83,20 +79,9 @@ QWidget* LivePreviewSheet::createChoices(bool allFiles, const QString& limit)
 
 QDialogButtonBox* LivePreviewSheet::createButtons()
 {
-    // Made inside the sheet at once, so that the default button below is the sheet's.
-    auto* box = new QDialogButtonBox(QDialogButtonBox::Help | QDialogButtonBox::Cancel, this);
-    QPushButton* help = box->button(QDialogButtonBox::Help);
-    help->setObjectName(QStringLiteral("helpButton"));
-    help->setText(localized("HELP"));
-    help->setShortcut(QKeySequence::HelpContents);
-    box->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cancelButton"));
-    box->button(QDialogButtonBox::Cancel)->setText(localized("CANCEL"));
-    QPushButton* turnOn = box->addButton(localized("LIVEPREVIEWTURNON"), QDialogButtonBox::AcceptRole);
-    turnOn->setObjectName(QStringLiteral("turnOnButton"));
-    turnOn->setDefault(true);
+    QDialogButtonBox* box = createButtonBox(QDialogButtonBox::Cancel);
+    addDefaultButton(box, { "turnOnButton", "LIVEPREVIEWTURNON" });
     connect(box, &QDialogButtonBox::accepted, this, &LivePreviewSheet::accept);
-    connect(box, &QDialogButtonBox::rejected, this, &LivePreviewSheet::reject);
-    connect(box, &QDialogButtonBox::helpRequested, this, &LivePreviewSheet::helpRequested);
     return box;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDialog>
+#include "gui/ui/Sheet.h"
+
 #include <QString>
 
 class QDialogButtonBox;
@@ -12,7 +13,7 @@ namespace tavrin {
 
 // Opened when the user turns live preview on: says what live preview does and asks how
 // many items each preview covers, the first N or all of them.
-class LivePreviewSheet : public QDialog {
+class LivePreviewSheet : public Sheet {
     Q_OBJECT
 
 public:
@@ -20,9 +21,6 @@ public:
 
     bool isAllFiles() const;
     QString filesLimit() const;
-
-signals:
-    void helpRequested();
 
 private:
     QWidget* createChoices(bool allFiles, const QString& limit);

@@ -48,12 +48,11 @@ QLineEdit* OptionBinder::formattedField(
     return field;
 }
 
-QLineEdit* OptionBinder::textField(
-    const char* optionKey, const char* placeholderKey, TextFieldFormatter::Kind kind)
+QLineEdit* OptionBinder::textField(const KeyedInput& input, TextFieldFormatter::Kind kind)
 {
-    QLineEdit* field = formattedField(optionKey, kind, NameLength);
-    if (placeholderKey)
-        field->setPlaceholderText(localized(placeholderKey));
+    QLineEdit* field = formattedField(input.optionKey, kind, NameLength);
+    if (input.textKey)
+        field->setPlaceholderText(localized(input.textKey));
     return field;
 }
 
@@ -77,9 +76,10 @@ QLineEdit* OptionBinder::lettersField(const char* optionKey)
     return shortField(optionKey, TextFieldFormatter::Kind::Letters, SequenceDigits);
 }
 
-QCheckBox* OptionBinder::checkBox(const char* optionKey, const char* labelKey)
+QCheckBox* OptionBinder::checkBox(const KeyedInput& input)
 {
-    auto* box = new QCheckBox(localized(labelKey));
+    const char* optionKey = input.optionKey;
+    auto* box = new QCheckBox(localized(input.textKey));
     box->setObjectName(QString::fromLatin1(optionKey));
     connect(box, &QCheckBox::clicked, this,
         [this, optionKey](bool checked) { m_settings.setProperty(optionKey, checked); });

@@ -19,6 +19,19 @@ namespace tavrin {
 
 class Settings;
 
+// An option's input with the string-table key of the text shown with it: the label of a
+// check box, the placeholder of a field (none when null).
+struct KeyedInput {
+    const char* optionKey;
+    const char* textKey = nullptr;
+};
+
+// The label of a choice and the tooltip its row shares.
+struct ChoiceText {
+    const char* labelKey;
+    const char* toolTipKey;
+};
+
 // Makes the inputs of an action tab and keeps each in step with its option both ways: an
 // edit, a tick or a choice sets the option at once, and refresh() shows the options as they
 // are now, after a profile, a validation or any other change from elsewhere. Every input is
@@ -41,13 +54,13 @@ public:
 
     explicit OptionBinder(Settings& settings, QObject* parent = nullptr);
 
-    QLineEdit* textField(const char* optionKey, const char* placeholderKey = nullptr,
-        TextFieldFormatter::Kind kind = TextFieldFormatter::Kind::Text);
+    QLineEdit* textField(
+        const KeyedInput& input, TextFieldFormatter::Kind kind = TextFieldFormatter::Kind::Text);
     // Right-aligned, as numbers are.
     QLineEdit* numberField(const char* optionKey, TextFieldFormatter::Kind kind, int digits = PositionDigits);
     // The letters of a sequence's first value.
     QLineEdit* lettersField(const char* optionKey);
-    QCheckBox* checkBox(const char* optionKey, const char* labelKey);
+    QCheckBox* checkBox(const KeyedInput& input);
     // Each choice is a label key and the option value it stands for.
     QComboBox* choice(const char* optionKey, const Choices& choices);
     // "counting from the start" or "from the end", standing for the two values given.

@@ -2,7 +2,9 @@
 
 #include "core/profiles/Tabs.h"
 #include "core/text/LocalizedStrings.h"
-#include "gui/app/TavrinAppController.h"
+#include "gui/control/ListController.h"
+#include "gui/control/RenameController.h"
+#include "gui/control/SessionController.h"
 #include "gui/engine/ActionTab.h"
 #include "gui/engine/ActionTabs.h"
 #include "gui/engine/GeneralTab.h"
@@ -10,7 +12,7 @@
 #include "gui/engine/ReplaceRemoveTab.h"
 #include "gui/engine/SequenceTab.h"
 #include "gui/ui/AttachedWindow.h"
-#include "gui/ui/MessageBoxPrompter.h"
+#include "gui/ui/Prompter.h"
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -63,16 +65,15 @@ QPushButton* buttonFor(QAction* action)
 } // namespace
 
 RenamePanel::RenamePanel(
-    TavrinAppController* controller, AttachedWindow* attached, QAction* cancelAction, QWidget* parent)
+    RenameController* rename, AttachedWindow* attached, QAction* cancelAction, QWidget* parent)
     : QWidget(parent)
-    , m_controller(controller)
+    , m_rename(rename)
     , m_attached(attached)
-    , m_prompter(std::make_unique<MessageBoxPrompter>())
-    , m_tabs(new ActionTabs(controller->settings()))
+    , m_tabs(new ActionTabs(rename->session().settings()))
 {
     setObjectName(QStringLiteral("renamePanel"));
     m_tabs->setObjectName(QStringLiteral("actionTabs"));
-    Settings& settings = controller->settings();
+    Settings& settings = rename->session().settings();
     m_tabs->addActionTab(new SequenceTab(settings), tabs::AlphaNumeric, localized("SEQUENCETAB"));
     m_tabs->addActionTab(new InsertDeleteTab(settings), tabs::InsertDelete, localized("INSERTDELETETAB"));
     m_tabs->addActionTab(new ReplaceRemoveTab(settings), tabs::ReplaceRemove, localized("REPLACEREMOVETAB"));
@@ -85,18 +86,12 @@ RenamePanel::RenamePanel(
     layout->addWidget(m_tabs, 1);
     layout->addWidget(createButtonRow(cancelAction));
 
-    connect(m_controller, &TavrinAppController::executingChanged, this, &RenamePanel::updateActions);
-    connect(
-        m_controller, &TavrinAppController::hasFilesForRenamingChanged, this, &RenamePanel::updateActions);
+    connect(&m_rename->list(), &ListController::executingChanged, this, &RenamePanel::updateActions);
+    connect(m_rename, &RenameController::hasFilesForRenamingChanged, this, &RenamePanel::updateActions);
     updateActions();
 }
 
 RenamePanel::~RenamePanel() = default;
-
-void RenamePanel::setPrompter(std::unique_ptr<Prompter> prompter)
-{
-    m_prompter = std::move(prompter);
-}
 
 void RenamePanel::createActions()
 {
@@ -140,16 +135,16 @@ QWidget* RenamePanel::createButtonRow(QAction* cancelAction)
 
 void RenamePanel::actionPreview()
 {
-    if (m_controller->isExecuting())
+    if (m_rename->list().isExecuting())
         return;
-    if (m_controller->shownCount() == 0) {
+    if (m_rename->list().shownCount() == 0) {
         m_attached->showMessage(m_previewButton, localized("NOITEMSTOPREVIEW"));
         return;
     }
     m_attached->hide();
-    if (const std::optional<ValidationFailure> failure = m_controller->preview()) {
-        m_prompter->warn(
-            window(), LocalizedStrings::text(failure->titleKey), LocalizedStrings::text(failure->messageKey));
+    if (const std::optional<ValidationFailure> failure = m_rename->preview()) {
+        m_prompter->warn(window(),
+            { LocalizedStrings::text(failure->titleKey), LocalizedStrings::text(failure->messageKey) });
         focusField(failure->focusOption);
     }
 }
@@ -164,22 +159,25 @@ void RenamePanel::focusField(const QString& optionKey)
 
 void RenamePanel::actionApply()
 {
-    if (m_controller->isExecuting() || !m_controller->isHasFilesForRenaming())
+    if (m_rename->list().isExecuting() || !m_rename->isHasFilesForRenaming())
         return;
     m_attached->hide();
     if (!m_prompter->confirmRename(window()))
         return;
     // Asked later from the worker; the panel may be gone by then.
     const QPointer<RenamePanel> panel(this);
-    m_controller->apply([panel] { return panel && panel->m_prompter->continueWithoutLog(panel->window()); });
+    m_rename->apply([panel] {
+        const RenamePanel* owner = panel.data();
+        return owner != nullptr && owner->m_prompter->continueWithoutLog(owner->window());
+    });
 }
 
 void RenamePanel::updateActions()
 {
-    const bool idle = !m_controller->isExecuting();
+    const bool idle = !m_rename->list().isExecuting();
     m_tabs->setEnabled(idle);
     m_previewAction->setEnabled(idle);
-    m_applyAction->setEnabled(idle && m_controller->isHasFilesForRenaming());
+    m_applyAction->setEnabled(idle && m_rename->isHasFilesForRenaming());
 }
 
 } // namespace tavrin

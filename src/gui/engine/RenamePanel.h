@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QWidget>
-#include <memory>
 
 class QAction;
 class QPushButton;
@@ -11,24 +10,24 @@ namespace tavrin {
 class ActionTabs;
 class AttachedWindow;
 class Prompter;
-class TavrinAppController;
+class RenameController;
 
 // The area below the table: the action tabs and the buttons that preview and apply the
-// chosen action. Both run through the controller; the questions on the way go through a
-// Prompter, message boxes unless a test puts its own in.
+// chosen action. Both run through the rename controller; the questions on the way go through
+// the window's prompter.
 class RenamePanel : public QWidget {
     Q_OBJECT
 
 public:
-    RenamePanel(TavrinAppController* controller, AttachedWindow* attached, QAction* cancelAction,
-        QWidget* parent = nullptr);
+    RenamePanel(
+        RenameController* rename, AttachedWindow* attached, QAction* cancelAction, QWidget* parent = nullptr);
     ~RenamePanel() override;
 
     ActionTabs* tabs() const { return m_tabs; }
     QAction* previewAction() const { return m_previewAction; }
     QAction* applyAction() const { return m_applyAction; }
     QPushButton* previewButton() const { return m_previewButton; }
-    void setPrompter(std::unique_ptr<Prompter> prompter);
+    void setPrompter(Prompter* prompter) { m_prompter = prompter; }
 
     // The Preview button: a hint when the list is empty, an alert when an input is
     // missing, else a preview on the worker thread.
@@ -42,9 +41,9 @@ private:
     void focusField(const QString& optionKey);
     void updateActions();
 
-    TavrinAppController* m_controller;
+    RenameController* m_rename;
     AttachedWindow* m_attached;
-    std::unique_ptr<Prompter> m_prompter;
+    Prompter* m_prompter = nullptr;
     ActionTabs* m_tabs = nullptr;
     QAction* m_previewAction = nullptr;
     QAction* m_applyAction = nullptr;

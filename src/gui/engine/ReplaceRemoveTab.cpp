@@ -75,14 +75,14 @@ QLayout* ReplaceRemoveTab::makeModeRow()
     QButtonGroup* modes = m_binder->radioGroup(&Settings::chooseReplaceRemoveMode, chosenMode);
     auto* row = new QHBoxLayout;
     row->setSpacing(16);
-    const auto addMode = [&](int mode, const char* name, const char* labelKey, const char* toolTipKey) {
-        QRadioButton* button = m_binder->radioButton(modes, mode, QString::fromLatin1(name), labelKey);
-        button->setToolTip(localized(toolTipKey));
+    const auto addMode = [&](int mode, const char* name, const ChoiceText& text) {
+        QRadioButton* button = m_binder->radioButton(modes, mode, QString::fromLatin1(name), text.labelKey);
+        button->setToolTip(localized(text.toolTipKey));
         row->addWidget(button);
     };
-    addMode(kReplace, "replaceMode", "REPLACEMODE", "REPLACEMODETIP");
-    addMode(kRemove, "removeMode", "REMOVEMODE", "REMOVEMODETIP");
-    addMode(kRemoveCharacters, "removeCharactersMode", "REMOVECHARACTERSMODE", "REMOVECHARACTERSMODETIP");
+    addMode(kReplace, "replaceMode", { "REPLACEMODE", "REPLACEMODETIP" });
+    addMode(kRemove, "removeMode", { "REMOVEMODE", "REMOVEMODETIP" });
+    addMode(kRemoveCharacters, "removeCharactersMode", { "REMOVECHARACTERSMODE", "REMOVECHARACTERSMODETIP" });
     row->addStretch();
     return row;
 }
@@ -93,20 +93,20 @@ QGroupBox* ReplaceRemoveTab::makeTextGroup()
     QGridLayout* grid = groupGrid(group);
 
     m_findLabel = new QLabel;
-    QLineEdit* find = m_binder->textField(Settings::replaceRemoveThisKey);
+    QLineEdit* find = m_binder->textField({ Settings::replaceRemoveThisKey });
     m_findLabel->setBuddy(find);
     grid->addWidget(m_findLabel, 0, 0);
     grid->addWidget(find, 0, 1);
 
     auto* withLabel = new QLabel(localized("REPLACEWITH"));
-    QLineEdit* with = m_binder->textField(Settings::replaceRemoveWithKey, "REPLACEWITHPLACEHOLDER");
+    QLineEdit* with = m_binder->textField({ Settings::replaceRemoveWithKey, "REPLACEWITHPLACEHOLDER" });
     withLabel->setBuddy(with);
     m_replacementInputs = { withLabel, with };
     OptionBinder::describeRow(m_replacementInputs, localized("REPLACEWITHTIP"));
     grid->addWidget(withLabel, 1, 0);
     grid->addWidget(with, 1, 1);
 
-    QCheckBox* matchCase = m_binder->checkBox(Settings::isReplaceRemoveCaseSensitiveKey, "REPLACECASE");
+    QCheckBox* matchCase = m_binder->checkBox({ Settings::isReplaceRemoveCaseSensitiveKey, "REPLACECASE" });
     matchCase->setToolTip(localized("REPLACECASETIP"));
     grid->addWidget(matchCase, 2, 1);
 
@@ -131,13 +131,13 @@ QGroupBox* ReplaceRemoveTab::makeWhereGroup()
     grid->addWidget(start, 0, 1);
     grid->addWidget(direction, 0, 2, Qt::AlignLeft);
 
-    QCheckBox* all = m_binder->checkBox(Settings::isReplaceRemoveAllOccurrenceKey, "REPLACEALL");
+    QCheckBox* all = m_binder->checkBox({ Settings::isReplaceRemoveAllOccurrenceKey, "REPLACEALL" });
     all->setToolTip(localized("REPLACEALLTIP"));
     grid->addWidget(all, 1, 0, 1, 3);
 
-    addMatchChoice(grid, 2, Settings::replaceRemoveStartOnOccurrenceKey, "REPLACEFROMOCCURRENCE",
-        "REPLACEFROMOCCURRENCETIP");
-    addMatchChoice(grid, 3, Settings::replaceRemoveOccuranceCountKey, "REPLACECOUNT", "REPLACECOUNTTIP");
+    addMatchChoice(grid, 2, Settings::replaceRemoveStartOnOccurrenceKey,
+        { "REPLACEFROMOCCURRENCE", "REPLACEFROMOCCURRENCETIP" });
+    addMatchChoice(grid, 3, Settings::replaceRemoveOccuranceCountKey, { "REPLACECOUNT", "REPLACECOUNTTIP" });
 
     grid->setColumnStretch(2, 1);
     grid->setRowStretch(4, 1);
@@ -145,12 +145,12 @@ QGroupBox* ReplaceRemoveTab::makeWhereGroup()
 }
 
 void ReplaceRemoveTab::addMatchChoice(
-    QGridLayout* grid, int row, const char* optionKey, const char* labelKey, const char* toolTipKey)
+    QGridLayout* grid, int row, const char* optionKey, const ChoiceText& text)
 {
-    auto* label = new QLabel(localized(labelKey));
+    auto* label = new QLabel(localized(text.labelKey));
     QLineEdit* number = m_binder->numberField(optionKey, Kind::PositiveNumber);
     label->setBuddy(number);
-    OptionBinder::describeRow({ label, number }, localized(toolTipKey));
+    OptionBinder::describeRow({ label, number }, localized(text.toolTipKey));
     grid->addWidget(label, row, 0);
     grid->addWidget(number, row, 1);
     m_matchChoiceInputs << label << number;

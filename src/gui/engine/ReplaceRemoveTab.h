@@ -11,6 +11,9 @@ class QLayout;
 
 namespace tavrin {
 
+struct ChoiceText;
+struct KeyedInput;
+
 class OptionBinder;
 class Settings;
 
@@ -30,8 +33,7 @@ private:
     QLayout* makeModeRow();
     QGroupBox* makeTextGroup();
     QGroupBox* makeWhereGroup();
-    void addMatchChoice(
-        QGridLayout* grid, int row, const char* optionKey, const char* labelKey, const char* toolTipKey);
+    void addMatchChoice(QGridLayout* grid, int row, const char* optionKey, const ChoiceText& text);
     void refreshFromSettings();
     void enableChosenInputs();
     void nameFindField(bool characters);

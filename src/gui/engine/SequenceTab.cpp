@@ -64,28 +64,31 @@ QWidget* SequenceTab::fieldForOption(const QString& optionKey) const
     return m_binder->field(optionKey);
 }
 
+// A radio button with the field of its value beside it, one row of `group`'s grid: the
+// button's id is also its row.
+void SequenceTab::addChoiceRow(QGridLayout* grid, QButtonGroup* group, const ChoiceRow& choice)
+{
+    QRadioButton* button
+        = m_binder->radioButton(group, choice.id, QString::fromLatin1(choice.objectName), choice.labelKey);
+    OptionBinder::describeRow({ button, choice.field }, localized(choice.tipKey));
+    grid->addWidget(button, choice.id, 0);
+    grid->addWidget(choice.field, choice.id, 1);
+}
+
 QGroupBox* SequenceTab::makeKindGroup()
 {
     auto* group = new QGroupBox(localized("SEQUENCEKINDGROUP"));
     QGridLayout* grid = groupGrid(group);
     QButtonGroup* kinds = m_binder->radioGroup(&Settings::chooseNumericOrAlphabetic,
         [](const Settings& settings) { return settings.isAlphaNumericNumeric() ? kNumeric : kAlphabetic; });
-
-    QRadioButton* numbers
-        = m_binder->radioButton(kinds, kNumeric, QStringLiteral("sequenceNumeric"), "SEQUENCENUMBERS");
-    QLineEdit* numberStart = m_binder->numberField(
-        Settings::alphaNumericNumericStartWithKey, Kind::Number, OptionBinder::SequenceDigits);
-    OptionBinder::describeRow({ numbers, numberStart }, localized("SEQUENCENUMBERSTIP"));
-    grid->addWidget(numbers, 0, 0);
-    grid->addWidget(numberStart, 0, 1);
-
-    QRadioButton* letters
-        = m_binder->radioButton(kinds, kAlphabetic, QStringLiteral("sequenceAlphabetic"), "SEQUENCELETTERS");
-    QLineEdit* letterStart = m_binder->lettersField(Settings::alphaNumericAlphabeticStartWithKey);
-    OptionBinder::describeRow({ letters, letterStart }, localized("SEQUENCELETTERSTIP"));
-    grid->addWidget(letters, 1, 0);
-    grid->addWidget(letterStart, 1, 1);
-
+    addChoiceRow(grid, kinds,
+        { kNumeric, "sequenceNumeric", "SEQUENCENUMBERS",
+            m_binder->numberField(
+                Settings::alphaNumericNumericStartWithKey, Kind::Number, OptionBinder::SequenceDigits),
+            "SEQUENCENUMBERSTIP" });
+    addChoiceRow(grid, kinds,
+        { kAlphabetic, "sequenceAlphabetic", "SEQUENCELETTERS",
+            m_binder->lettersField(Settings::alphaNumericAlphabeticStartWithKey), "SEQUENCELETTERSTIP" });
     grid->setRowStretch(2, 1);
     return group;
 }
@@ -95,25 +98,19 @@ QGroupBox* SequenceTab::makeCountingGroup()
     auto* group = new QGroupBox(localized("SEQUENCECOUNTGROUP"));
     QGridLayout* grid = groupGrid(group);
     QButtonGroup* directions = m_binder->radioGroup(&Settings::chooseIncrementOrDecrement, chosenDirection);
-
-    QRadioButton* up
-        = m_binder->radioButton(directions, kIncrement, QStringLiteral("sequenceIncrement"), "SEQUENCEUP");
-    QLineEdit* upBy = m_binder->numberField(
-        Settings::alphaNumericIncrementByKey, Kind::PositiveNumber, OptionBinder::SequenceDigits);
-    OptionBinder::describeRow({ up, upBy }, localized("SEQUENCEUPTIP"));
-    grid->addWidget(up, 0, 0);
-    grid->addWidget(upBy, 0, 1);
-
-    QRadioButton* down
-        = m_binder->radioButton(directions, kDecrement, QStringLiteral("sequenceDecrement"), "SEQUENCEDOWN");
-    QLineEdit* downBy = m_binder->numberField(
-        Settings::alphaNumericDecrementByKey, Kind::PositiveNumber, OptionBinder::SequenceDigits);
-    OptionBinder::describeRow({ down, downBy }, localized("SEQUENCEDOWNTIP"));
-    grid->addWidget(down, 1, 0);
-    grid->addWidget(downBy, 1, 1);
+    addChoiceRow(grid, directions,
+        { kIncrement, "sequenceIncrement", "SEQUENCEUP",
+            m_binder->numberField(
+                Settings::alphaNumericIncrementByKey, Kind::PositiveNumber, OptionBinder::SequenceDigits),
+            "SEQUENCEUPTIP" });
+    addChoiceRow(grid, directions,
+        { kDecrement, "sequenceDecrement", "SEQUENCEDOWN",
+            m_binder->numberField(
+                Settings::alphaNumericDecrementByKey, Kind::PositiveNumber, OptionBinder::SequenceDigits),
+            "SEQUENCEDOWNTIP" });
 
     QCheckBox* reset
-        = m_binder->checkBox(Settings::isAlphaNumericResetSequenceOnEachFolderKey, "SEQUENCERESET");
+        = m_binder->checkBox({ Settings::isAlphaNumericResetSequenceOnEachFolderKey, "SEQUENCERESET" });
     reset->setToolTip(localized("SEQUENCERESETTIP"));
     grid->addWidget(reset, 2, 0, 1, 2);
 
@@ -126,9 +123,9 @@ QGroupBox* SequenceTab::makePlacementGroup()
     auto* group = new QGroupBox(localized("SEQUENCEPLACEGROUP"));
     QGridLayout* grid = groupGrid(group);
 
-    QCheckBox* prefix = m_binder->checkBox(Settings::isAlphaNumericPrefixKey, "SEQUENCEPREFIX");
+    QCheckBox* prefix = m_binder->checkBox({ Settings::isAlphaNumericPrefixKey, "SEQUENCEPREFIX" });
     prefix->setToolTip(localized("SEQUENCEPREFIXTIP"));
-    QCheckBox* suffix = m_binder->checkBox(Settings::isAlphaNumericSufixKey, "SEQUENCESUFFIX");
+    QCheckBox* suffix = m_binder->checkBox({ Settings::isAlphaNumericSufixKey, "SEQUENCESUFFIX" });
     suffix->setToolTip(localized("SEQUENCESUFFIXTIP"));
     auto* sides = new QHBoxLayout;
     sides->setSpacing(16);
@@ -142,15 +139,16 @@ QGroupBox* SequenceTab::makePlacementGroup()
     hint->setForegroundRole(QPalette::PlaceholderText);
     grid->addWidget(hint, 1, 0, 1, 2);
 
-    QCheckBox* separate = m_binder->checkBox(Settings::isAlphaNumericSeperatorKey, "SEQUENCESEPARATOR");
+    QCheckBox* separate = m_binder->checkBox({ Settings::isAlphaNumericSeperatorKey, "SEQUENCESEPARATOR" });
     QLineEdit* separator
-        = m_binder->textField(Settings::alphaNumericSeperatorKey, "SEQUENCESEPARATORPLACEHOLDER");
+        = m_binder->textField({ Settings::alphaNumericSeperatorKey, "SEQUENCESEPARATORPLACEHOLDER" });
     OptionBinder::describeRow({ separate, separator }, localized("SEQUENCESEPARATORTIP"));
     grid->addWidget(separate, 2, 0);
     grid->addWidget(separator, 2, 1, Qt::AlignLeft);
 
     auto* maskLabel = new QLabel(localized("SEQUENCEMASK"));
-    QLineEdit* mask = m_binder->textField(Settings::alphaNumericPaddingMaskKey, "SEQUENCEMASKPLACEHOLDER");
+    QLineEdit* mask
+        = m_binder->textField({ Settings::alphaNumericPaddingMaskKey, "SEQUENCEMASKPLACEHOLDER" });
     maskLabel->setBuddy(mask);
     OptionBinder::describeRow({ maskLabel, mask }, localized("SEQUENCEMASKTIP"));
     grid->addWidget(maskLabel, 3, 0);

@@ -2,7 +2,10 @@
 
 #include "gui/engine/ActionTab.h"
 
+class QButtonGroup;
+class QGridLayout;
 class QGroupBox;
+class QLineEdit;
 
 namespace tavrin {
 
@@ -21,6 +24,16 @@ public:
     QWidget* fieldForOption(const QString& optionKey) const override;
 
 private:
+    // A choice of the kind or the direction, and the field of its value.
+    struct ChoiceRow {
+        int id;
+        const char* objectName;
+        const char* labelKey;
+        QLineEdit* field;
+        const char* tipKey;
+    };
+
+    void addChoiceRow(QGridLayout* grid, QButtonGroup* group, const ChoiceRow& choice);
     QGroupBox* makeKindGroup();
     QGroupBox* makeCountingGroup();
     QGroupBox* makePlacementGroup();

@@ -3,7 +3,7 @@
 #include "core/list/FileSystemItem.h"
 #include "core/list/StatusTexts.h"
 #include "core/text/LocalizedStrings.h"
-#include "gui/app/TavrinAppController.h"
+#include "gui/control/ListController.h"
 
 #include <QFont>
 #include <iterator>
@@ -35,15 +35,15 @@ bool isValidColumn(int column)
 
 }  // namespace
 
-FileTableModel::FileTableModel(TavrinAppController* controller, QObject* parent)
+FileTableModel::FileTableModel(ListController* list, QObject* parent)
     : QAbstractTableModel(parent)
-    , m_controller(controller)
+    , m_list(list)
 {
-    connect(controller, &TavrinAppController::listAboutToChange, this, &FileTableModel::beginResetModel);
-    connect(controller, &TavrinAppController::listChanged, this, &FileTableModel::endResetModel);
-    connect(controller, &TavrinAppController::orderAboutToChange, this, [this] { emit layoutAboutToBeChanged(); });
-    connect(controller, &TavrinAppController::orderChanged, this, [this] { emit layoutChanged(); });
-    connect(controller, &TavrinAppController::namesChanged, this, [this] {
+    connect(list, &ListController::listAboutToChange, this, &FileTableModel::beginResetModel);
+    connect(list, &ListController::listChanged, this, &FileTableModel::endResetModel);
+    connect(list, &ListController::orderAboutToChange, this, [this] { emit layoutAboutToBeChanged(); });
+    connect(list, &ListController::orderChanged, this, [this] { emit layoutChanged(); });
+    connect(list, &ListController::namesChanged, this, [this] {
         if (rowCount() > 0)
             emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
     });
@@ -51,7 +51,7 @@ FileTableModel::FileTableModel(TavrinAppController* controller, QObject* parent)
 
 int FileTableModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : m_controller->shownCount();
+    return parent.isValid() ? 0 : m_list->shownCount();
 }
 
 int FileTableModel::columnCount(const QModelIndex& parent) const
@@ -73,10 +73,10 @@ QVariant FileTableModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.row() >= rowCount())
         return {};
-    const FileSystemItem& item = m_controller->shownItems()[static_cast<size_t>(index.row())];
+    const FileSystemItem& item = m_list->shownItems()[static_cast<size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole:
-        return index.column() == IconColumn ? QVariant() : QVariant(displayText(index.row(), index.column()));
+        return index.column() == IconColumn ? QVariant() : QVariant(displayText(index));
     case Qt::DecorationRole:
         return index.column() == IconColumn ? QVariant(m_icons.icon(item)) : QVariant();
     case Qt::ToolTipRole:
@@ -93,9 +93,10 @@ QVariant FileTableModel::data(const QModelIndex& index, int role) const
     }
 }
 
-QString FileTableModel::displayText(int row, int column) const
+QString FileTableModel::displayText(const QModelIndex& index) const
 {
-    const FileSystemItem& item = m_controller->shownItems()[static_cast<size_t>(row)];
+    const FileSystemItem& item = m_list->shownItems()[static_cast<size_t>(index.row())];
+    const int column = index.column();
     const QString text = item.displayField(columnKey(column));
     // The record answers the type as a string-table key ("FILE", "FOLDER").
     if (column == TypeColumn && !text.isEmpty())
@@ -118,7 +119,7 @@ void FileTableModel::sort(int column, Qt::SortOrder order)
 {
     if (!isSortableColumn(column))
         return;
-    m_controller->sort({columnKey(column), order == Qt::AscendingOrder});
+    m_list->sort({columnKey(column), order == Qt::AscendingOrder});
 }
 
 }  // namespace tavrin

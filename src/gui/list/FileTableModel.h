@@ -6,9 +6,9 @@
 
 namespace tavrin {
 
-class TavrinAppController;
+class ListController;
 
-// The table of listed items, read straight from the controller's list: no per-row state,
+// The table of listed items, read straight from the list: no per-row state,
 // so a reset costs the same for ten rows as for a hundred thousand.
 class FileTableModel : public QAbstractTableModel {
     Q_OBJECT
@@ -16,7 +16,7 @@ class FileTableModel : public QAbstractTableModel {
 public:
     enum Column { IconColumn, NameColumn, NewNameColumn, LocationColumn, ExtensionColumn, TypeColumn, ColumnCount };
 
-    explicit FileTableModel(TavrinAppController* controller, QObject* parent = nullptr);
+    explicit FileTableModel(ListController* list, QObject* parent = nullptr);
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -30,9 +30,9 @@ public:
     static bool isSortableColumn(int column);
 
 private:
-    QString displayText(int row, int column) const;
+    QString displayText(const QModelIndex& index) const;
 
-    TavrinAppController* m_controller;
+    ListController* m_list;
     mutable ItemIconCache m_icons;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gui/app/TavrinAppController.h"
+#include "gui/control/ListMode.h"
 
 #include <QWidget>
 

@@ -3,7 +3,6 @@
 #include "core/text/LocalizedStrings.h"
 #include "gui/list/PastedItemsModel.h"
 
-#include <QAction>
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -20,12 +19,9 @@
 namespace tavrin {
 
 PasteboardItemsSheet::PasteboardItemsSheet(const QStringList& paths, QWidget* parent)
-    : QDialog(parent)
+    : Sheet({"pasteboardItemsSheet", "PASTEDITEMSTITLE"}, parent)
     , m_model(new PastedItemsModel(paths, this))
 {
-    setObjectName(QStringLiteral("pasteboardItemsSheet"));
-    setWindowTitle(localized("PASTEDITEMSTITLE"));
-    setWindowModality(Qt::WindowModal);
 
     auto* intro = new QLabel(localized("PASTEDITEMSINTRO"));
     intro->setWordWrap(true);
@@ -64,29 +60,11 @@ QTableView* PasteboardItemsSheet::createTable()
 {
     m_table = new QTableView;
     m_table->setObjectName(QStringLiteral("pastedItemsTable"));
-    m_table->setModel(m_model);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setAlternatingRowColors(true);
-    m_table->setShowGrid(false);
-    m_table->setWordWrap(false);
-    m_table->setTabKeyNavigation(false);
-    m_table->setTextElideMode(Qt::ElideMiddle);
-    m_table->verticalHeader()->hide();
-    // Fixed row heights spare the view from measuring every row of a long list.
-    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 8);
+    setUpTable(m_table,
+        {m_model, QAbstractItemView::ExtendedSelection, [this] { removeSelectedItems(); }});
     QHeaderView* header = m_table->horizontalHeader();
-    header->setHighlightSections(false);
     header->setStretchLastSection(true);
     header->resizeSection(PastedItemsModel::NameColumn, header->fontMetrics().averageCharWidth() * 32);
-
-    auto* deleteAction = new QAction(m_table);
-    deleteAction->setShortcut(QKeySequence::Delete);
-    deleteAction->setShortcutContext(Qt::WidgetShortcut);
-    connect(deleteAction, &QAction::triggered, this, &PasteboardItemsSheet::removeSelectedItems);
-    m_table->addAction(deleteAction);
     return m_table;
 }
 
@@ -117,21 +95,9 @@ QWidget* PasteboardItemsSheet::createOptions()
 
 QDialogButtonBox* PasteboardItemsSheet::createButtons()
 {
-    // Made inside the sheet at once, so that the default button below is the sheet's.
-    auto* box = new QDialogButtonBox(QDialogButtonBox::Help | QDialogButtonBox::Cancel, this);
-    QPushButton* help = box->button(QDialogButtonBox::Help);
-    help->setObjectName(QStringLiteral("helpButton"));
-    help->setText(localized("HELP"));
-    help->setShortcut(QKeySequence::HelpContents);
-    box->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cancelButton"));
-    box->button(QDialogButtonBox::Cancel)->setText(localized("CANCEL"));
-    m_addButton = box->addButton(localized("PASTEDADDTOLIST"), QDialogButtonBox::AcceptRole);
-    m_addButton->setObjectName(QStringLiteral("addToListButton"));
-    m_addButton->setToolTip(localized("PASTEDADDTOLISTTOOLTIP"));
-    m_addButton->setDefault(true);
+    QDialogButtonBox* box = createButtonBox(QDialogButtonBox::Cancel);
+    m_addButton = addDefaultButton(box, {"addToListButton", "PASTEDADDTOLIST", "PASTEDADDTOLISTTOOLTIP"});
     connect(box, &QDialogButtonBox::accepted, this, &PasteboardItemsSheet::accept);
-    connect(box, &QDialogButtonBox::rejected, this, &PasteboardItemsSheet::reject);
-    connect(box, &QDialogButtonBox::helpRequested, this, &PasteboardItemsSheet::helpRequested);
     return box;
 }
 

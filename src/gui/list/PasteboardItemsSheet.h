@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDialog>
+#include "gui/ui/Sheet.h"
+
 #include <QStringList>
 
 class QCheckBox;
@@ -17,7 +18,7 @@ class PastedItemsModel;
 // Opened when items handed to the application from outside include folders: the user sees
 // the items, drops those not wanted, and chooses whether the files or the folders are
 // renamed, and whether sub-folders are gone through.
-class PasteboardItemsSheet : public QDialog {
+class PasteboardItemsSheet : public Sheet {
     Q_OBJECT
 
 public:
@@ -30,9 +31,6 @@ public:
 
     PastedItemsModel* model() const { return m_model; }
     QTableView* table() const { return m_table; }
-
-signals:
-    void helpRequested();
 
 private:
     QTableView* createTable();

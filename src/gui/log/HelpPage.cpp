@@ -16,13 +16,19 @@ QString resourcePage(const QString& language, const QString& name)
     return QStringLiteral(":/help/%1/%2").arg(language, name);
 }
 
-bool copyPage(const QString& from, const QString& to)
+// A page of the resources and where its copy goes.
+struct PageCopy {
+    QString resource;
+    QString file;
+};
+
+bool copyPage(const PageCopy& page)
 {
-    QFile page(from);
-    if (!page.open(QIODevice::ReadOnly))
+    QFile resource(page.resource);
+    if (!resource.open(QIODevice::ReadOnly))
         return false;
-    const QByteArray content = page.readAll();
-    QSaveFile copy(to);
+    const QByteArray content = resource.readAll();
+    QSaveFile copy(page.file);
     return copy.open(QIODevice::WriteOnly) && copy.write(content) == content.size() && copy.commit();
 }
 
@@ -36,15 +42,18 @@ QString helpPageFile(const QString& name)
     pages.removeDuplicates();
     if (!pages.contains(name))
         return {};
-    const QString helpFolder = QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + QStringLiteral("/help");
+    const QString helpFolder
+        = QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + QStringLiteral("/help");
     const QString folder = helpFolder + QLatin1Char('/') + language;
     // Every language's pages share one stylesheet, beside their folders.
-    if (!QDir().mkpath(folder) || !copyPage(QStringLiteral(":/help/help.css"), helpFolder + QStringLiteral("/help.css")))
+    if (!QDir().mkpath(folder)
+        || !copyPage({ QStringLiteral(":/help/help.css"), helpFolder + QStringLiteral("/help.css") }))
         return {};
     for (const QString& page : pages) {
         const QString translated = resourcePage(language, page);
-        const QString from = QFile::exists(translated) ? translated : resourcePage(QStringLiteral("en"), page);
-        if (!copyPage(from, folder + QLatin1Char('/') + page))
+        const QString from
+            = QFile::exists(translated) ? translated : resourcePage(QStringLiteral("en"), page);
+        if (!copyPage({ from, folder + QLatin1Char('/') + page }))
             return {};
     }
     return folder + QLatin1Char('/') + name;

@@ -2,14 +2,12 @@
 
 #include "core/log/LogListing.h"
 #include "core/text/LocalizedStrings.h"
-#include "gui/app/TavrinAppController.h"
-#include "gui/log/DesktopUndoSheetPrompter.h"
+#include "gui/control/ActivityStatus.h"
+#include "gui/control/BackgroundJob.h"
 #include "gui/log/HelpPage.h"
 #include "gui/log/LogTableModel.h"
-#include "gui/log/LogWorker.h"
 #include "gui/ui/ElidedLabel.h"
 
-#include <QAction>
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -28,7 +26,7 @@ namespace tavrin {
 
 namespace {
 
-using Severity = UndoSheetPrompter::Severity;
+using Severity = Prompter::Severity;
 
 constexpr char kTitleKey[] = "UNDOFILESFOLDERSTITLE";
 
@@ -39,29 +37,21 @@ QString formattedCount(int count)
 
 } // namespace
 
-UndoSheetController::UndoSheetController(TavrinAppController* delegate, QWidget* parent)
-    : QDialog(parent)
-    , m_delegate(delegate)
-    , m_prompter(std::make_unique<DesktopUndoSheetPrompter>())
+UndoSheetController::UndoSheetController(UndoSheetContext context, QWidget* parent)
+    : Sheet({ "undoSheet", kTitleKey }, parent)
+    , m_context(std::move(context))
     , m_model(new LogTableModel(this))
-    , m_worker(new LogWorker(this))
+    , m_worker(new BackgroundJob(this))
 {
-    setObjectName(QStringLiteral("undoSheet"));
-    setWindowTitle(localized(kTitleKey));
-    setWindowModality(Qt::WindowModal);
     createWidgets();
-    connect(m_worker, &LogWorker::progressChanged, this, &UndoSheetController::showProgress);
+    connect(m_worker, &BackgroundJob::progressChanged, this, &UndoSheetController::showProgress);
+    connect(this, &Sheet::helpRequested, this, &UndoSheetController::showHelp);
     loadUserLogFiles();
     resize(680, 440);
 }
 
 // The worker's destructor stops an undo in flight; its log stays, naming what is left.
 UndoSheetController::~UndoSheetController() = default;
-
-void UndoSheetController::setPrompter(std::unique_ptr<UndoSheetPrompter> prompter)
-{
-    m_prompter = std::move(prompter);
-}
 
 void UndoSheetController::createWidgets()
 {
@@ -85,28 +75,11 @@ QWidget* UndoSheetController::createTable()
 {
     m_table = new QTableView;
     m_table->setObjectName(QStringLiteral("logTable"));
-    m_table->setModel(m_model);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setAlternatingRowColors(true);
-    m_table->setShowGrid(false);
-    m_table->setWordWrap(false);
-    m_table->setTabKeyNavigation(false);
-    m_table->setTextElideMode(Qt::ElideMiddle);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 8);
+    setUpTable(m_table, { m_model, QAbstractItemView::SingleSelection, [this] { deleteLogFile(); } });
     QHeaderView* header = m_table->horizontalHeader();
-    header->setHighlightSections(false);
     header->setSectionResizeMode(LogTableModel::FileNameColumn, QHeaderView::Stretch);
     header->setSectionResizeMode(LogTableModel::DateCreatedColumn, QHeaderView::ResizeToContents);
     header->setSectionResizeMode(LogTableModel::FilesCountColumn, QHeaderView::ResizeToContents);
-
-    auto* deleteAction = new QAction(m_table);
-    deleteAction->setShortcut(QKeySequence::Delete);
-    deleteAction->setShortcutContext(Qt::WidgetShortcut);
-    connect(deleteAction, &QAction::triggered, this, &UndoSheetController::deleteLogFile);
-    m_table->addAction(deleteAction);
 
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &UndoSheetController::selectionChanged);
@@ -152,12 +125,12 @@ QWidget* UndoSheetController::createLogCommands()
     m_logCommands = new QWidget;
     auto* layout = new QVBoxLayout(m_logCommands);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(makeButton("openLogButton", "OPENLOGBUTTON", "OPENLOGTOOLTIP",
+    layout->addWidget(makeButton({ "openLogButton", "OPENLOGBUTTON", "OPENLOGTOOLTIP" },
         themeIcon("document-open", QStyle::SP_DialogOpenButton), &UndoSheetController::openLogFile));
-    layout->addWidget(makeButton("viewLogButton", "VIEWLOGBUTTON", "VIEWLOGTOOLTIP",
+    layout->addWidget(makeButton({ "viewLogButton", "VIEWLOGBUTTON", "VIEWLOGTOOLTIP" },
         themeIcon("document-preview", QStyle::SP_FileDialogContentsView),
         &UndoSheetController::viewLogFileContent));
-    layout->addWidget(makeButton("deleteLogButton", "DELETELOGBUTTON", "DELETELOGTOOLTIP",
+    layout->addWidget(makeButton({ "deleteLogButton", "DELETELOGBUTTON", "DELETELOGTOOLTIP" },
         themeIcon("edit-delete", QStyle::SP_TrashIcon), &UndoSheetController::deleteLogFile));
     layout->addStretch(1);
     return m_logCommands;
@@ -165,27 +138,20 @@ QWidget* UndoSheetController::createLogCommands()
 
 QDialogButtonBox* UndoSheetController::createButtons()
 {
-    // Made inside the sheet at once, so that the default button below is the sheet's.
-    auto* box = new QDialogButtonBox(QDialogButtonBox::Help | QDialogButtonBox::Close, this);
-    box->button(QDialogButtonBox::Help)->setText(localized("HELP"));
-    box->button(QDialogButtonBox::Help)->setShortcut(QKeySequence::HelpContents);
-    box->button(QDialogButtonBox::Close)->setText(localized("CLOSE"));
+    QDialogButtonBox* box = createButtonBox(QDialogButtonBox::Close);
     // The sheet is there to undo: its button takes the place and the Return key of an OK.
-    QPushButton* undo = makeButton("undoButton", "UNDOBUTTON", "UNDOBUTTONTOOLTIP",
-        themeIcon("edit-undo", QStyle::SP_ArrowBack), &UndoSheetController::undoRenaming);
-    box->addButton(undo, QDialogButtonBox::AcceptRole);
-    undo->setDefault(true);
-    connect(box, &QDialogButtonBox::rejected, this, &UndoSheetController::reject);
-    connect(box, &QDialogButtonBox::helpRequested, this, &UndoSheetController::showHelp);
+    QPushButton* undo = addDefaultButton(box, { "undoButton", "UNDOBUTTON", "UNDOBUTTONTOOLTIP" });
+    undo->setIcon(themeIcon("edit-undo", QStyle::SP_ArrowBack));
+    connect(undo, &QPushButton::clicked, this, &UndoSheetController::undoRenaming);
     return box;
 }
 
-QPushButton* UndoSheetController::makeButton(const char* objectName, const char* textKey,
-    const char* toolTipKey, const QIcon& icon, void (UndoSheetController::*command)())
+QPushButton* UndoSheetController::makeButton(
+    const SheetButton& text, const QIcon& icon, void (UndoSheetController::*command)())
 {
-    auto* button = new QPushButton(icon, localized(textKey));
-    button->setObjectName(QString::fromLatin1(objectName));
-    button->setToolTip(localized(toolTipKey));
+    auto* button = new QPushButton(icon, localized(text.textKey));
+    button->setObjectName(QString::fromLatin1(text.objectName));
+    button->setToolTip(localized(text.toolTipKey));
     connect(button, &QPushButton::clicked, this, command);
     return button;
 }
@@ -198,7 +164,7 @@ QIcon UndoSheetController::themeIcon(const char* name, QStyle::StandardPixmap fa
 void UndoSheetController::loadUserLogFiles()
 {
     setCurrentLog(QString(), 0);
-    m_model->setLogs(tavrin::loadUserLogFiles(m_delegate->logFolderPath()));
+    m_model->setLogs(tavrin::loadUserLogFiles(m_context.logFolder));
     showEntriesStatus(0);
 }
 
@@ -244,17 +210,17 @@ void UndoSheetController::setUndoing(bool undoing, const QString& status)
         m_table->setFocus();
 }
 
-void UndoSheetController::showProgress(int done, int total)
+void UndoSheetController::showProgress(const Progress& progress)
 {
-    if (!m_isUndoing || total <= 0)
+    if (!m_isUndoing || progress.total <= 0)
         return;
-    m_busyIndicator->setRange(0, total);
-    m_busyIndicator->setValue(done);
+    m_busyIndicator->setRange(0, progress.total);
+    m_busyIndicator->setValue(progress.done);
 }
 
 void UndoSheetController::alert(Severity severity, const char* titleKey, const QString& message)
 {
-    m_prompter->alert(this, severity, localized(titleKey), message);
+    m_context.prompter->alert(this, severity, { localized(titleKey), message });
 }
 
 void UndoSheetController::undoRenaming()
@@ -271,10 +237,11 @@ void UndoSheetController::undoRenaming()
         return;
     }
     setUndoing(true, localized("UNDOINGITEMS"));
-    m_delegate->startTiming();
+    m_context.status->startTiming();
     m_jobPath = m_currLogFilePath;
     m_summary = UndoSummary();
-    connect(m_worker, &LogWorker::finished, this, &UndoSheetController::finishUndo, Qt::SingleShotConnection);
+    connect(
+        m_worker, &BackgroundJob::finished, this, &UndoSheetController::finishUndo, Qt::SingleShotConnection);
     m_worker->start([this, path = m_jobPath](const std::atomic_bool& cancel, ProgressObserver* progress) {
         m_summary = tavrin::undoRenaming(path, cancel, progress);
     });
@@ -286,7 +253,7 @@ void UndoSheetController::finishUndo()
     setUndoing(false,
         done ? localized("ITEMSRESTORED").arg(formattedCount(m_summary.restored))
              : localized("TOTALNOSRENAMEDITEMSFOUND").arg(formattedCount(m_totalFilesCanBeUndoFromLog)));
-    m_delegate->showLastActionTimeTaken("UNDOINGTIME");
+    m_context.status->finishTiming("UNDOINGTIME");
     switch (m_summary.outcome) {
     case UndoOutcome::Done:
         alert(Severity::Information, kTitleKey, undoSummaryText(m_summary));
@@ -310,14 +277,15 @@ void UndoSheetController::openLogFile()
 {
     if (m_isUndoing)
         return;
-    const QString path = m_prompter->chooseLogFile(this, m_delegate->logFolderPath());
+    const QString path = m_context.prompter->choose(this, Prompter::Choice::LogFile,
+        { localized("SELECTLOGFILETITLE").arg(localized("APPTITLE")), m_context.logFolder });
     if (path.isEmpty())
         return;
     setUndoing(true, localized("CHECKINGLOGFILE"));
     m_jobPath = path;
     m_checked = CheckedLog();
-    connect(
-        m_worker, &LogWorker::finished, this, &UndoSheetController::finishCheck, Qt::SingleShotConnection);
+    connect(m_worker, &BackgroundJob::finished, this, &UndoSheetController::finishCheck,
+        Qt::SingleShotConnection);
     m_worker->start(
         [this, path](const std::atomic_bool&, ProgressObserver*) { m_checked = tavrin::openLogFile(path); });
 }
@@ -355,7 +323,8 @@ void UndoSheetController::deleteLogFile()
         alert(Severity::Warning, kTitleKey, localized("UNDOFILESFOLDERSNOLOGSELECTED"));
         return;
     }
-    if (m_prompter->confirmDelete(this))
+    if (m_context.prompter->askYesNo(
+            this, { localized(kTitleKey), localized("UNDOFILESFOLDERSDELETECONFIRM") }))
         removeCurrentLog();
 }
 
@@ -391,14 +360,14 @@ void UndoSheetController::viewLogFileContent()
         alert(Severity::Warning, "VIEWLOGFILETITLE", localized("VIEWLOGFILETITLEMESSAGE"));
         return;
     }
-    if (!m_prompter->openWithDesktop(m_currLogFilePath))
+    if (!m_context.prompter->openWithDesktop(m_currLogFilePath))
         alert(Severity::Warning, "VIEWLOGFILETITLE", localized("VIEWLOGFAILED").arg(m_currLogFilePath));
 }
 
 void UndoSheetController::showHelp()
 {
     const QString page = helpPageFile(QStringLiteral("undo.html"));
-    if (page.isEmpty() || !m_prompter->openWithDesktop(page))
+    if (page.isEmpty() || !m_context.prompter->openWithDesktop(page))
         alert(Severity::Warning, "HELP", localized("HELPUNAVAILABLE"));
 }
 

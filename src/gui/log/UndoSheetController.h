@@ -2,13 +2,11 @@
 
 #include "core/log/LogFileCheck.h"
 #include "core/log/UndoRenaming.h"
-#include "gui/log/UndoSheetPrompter.h"
+#include "gui/ui/Prompter.h"
+#include "gui/ui/Sheet.h"
 
-#include <QDialog>
-#include <QDialogButtonBox>
 #include <QString>
 #include <QStyle>
-#include <memory>
 
 class QIcon;
 class QLabel;
@@ -18,24 +16,30 @@ class QTableView;
 
 namespace tavrin {
 
+class ActivityStatus;
+struct Progress;
+class BackgroundJob;
 class ElidedLabel;
 class LogTableModel;
-class LogWorker;
-class TavrinAppController;
+
+// What the undo sheet works with: the folder of the logs, the status line that shows how long
+// an undo took, and who asks the user.
+struct UndoSheetContext {
+    QString logFolder;
+    ActivityStatus* status = nullptr;
+    Prompter* prompter = nullptr;
+};
 
 // The sheet that undoes a logged batch: the logs of the log folder, newest first, and the
 // commands to undo, open, view and delete one. The undo itself and the check of a log chosen
 // on disk run on a worker thread, so the sheet stays responsive through a long undo; while
-// one runs, every command waits and the sheet cannot be closed. The delegate (the
-// application controller) names the log folder and shows the time an undo took.
-class UndoSheetController : public QDialog {
+// one runs, every command waits and the sheet cannot be closed.
+class UndoSheetController : public Sheet {
     Q_OBJECT
 
 public:
-    UndoSheetController(TavrinAppController* delegate, QWidget* parent);
+    UndoSheetController(UndoSheetContext context, QWidget* parent);
     ~UndoSheetController() override;
-
-    void setPrompter(std::unique_ptr<UndoSheetPrompter> prompter);
 
     LogTableModel* model() const { return m_model; }
     QTableView* table() const { return m_table; }
@@ -68,8 +72,8 @@ private:
     QWidget* createStatusArea();
     QWidget* createLogCommands();
     QDialogButtonBox* createButtons();
-    QPushButton* makeButton(const char* objectName, const char* textKey, const char* toolTipKey,
-        const QIcon& icon, void (UndoSheetController::*command)());
+    QPushButton* makeButton(
+        const SheetButton& text, const QIcon& icon, void (UndoSheetController::*command)());
     QIcon themeIcon(const char* name, QStyle::StandardPixmap fallback) const;
 
     void selectionChanged();
@@ -77,18 +81,17 @@ private:
     void showEntriesStatus(int entries);
     void updateCountLine();
     void setUndoing(bool undoing, const QString& status);
-    void showProgress(int done, int total);
-    void alert(UndoSheetPrompter::Severity severity, const char* titleKey, const QString& message);
+    void showProgress(const Progress& progress);
+    void alert(Prompter::Severity severity, const char* titleKey, const QString& message);
 
     void finishCheck();
     void finishUndo();
     void removeCurrentLog();
     void forgetLog(const QString& path);
 
-    TavrinAppController* m_delegate;
-    std::unique_ptr<UndoSheetPrompter> m_prompter;
+    UndoSheetContext m_context;
     LogTableModel* m_model;
-    LogWorker* m_worker;
+    BackgroundJob* m_worker;
 
     QTableView* m_table = nullptr;
     QLabel* m_countLabel = nullptr;

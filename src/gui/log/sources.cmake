@@ -1,10 +1,7 @@
 target_sources(tavrin_gui PRIVATE
-  ${CMAKE_CURRENT_LIST_DIR}/DesktopUndoSheetPrompter.cpp
   ${CMAKE_CURRENT_LIST_DIR}/HelpPage.cpp
   ${CMAKE_CURRENT_LIST_DIR}/LogTableModel.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/LogWorker.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/UndoSheetController.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/UndoSheetPrompter.h)
+  ${CMAKE_CURRENT_LIST_DIR}/UndoSheetController.cpp)
 
 # The help pages open in a browser, which gets a copy of the page (HelpPage.h). One folder
 # per language, so a translated page is added by dropping it next to the others.

@@ -47,7 +47,7 @@ bool movesAnchor(QEvent::Type type)
     return type == QEvent::Move || type == QEvent::Resize || type == QEvent::Hide;
 }
 
-}  // namespace
+} // namespace
 
 AttachedWindow::AttachedWindow(QWidget* parent)
     : QWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint)
@@ -180,4 +180,4 @@ bool AttachedWindow::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
-}  // namespace tavrin
+} // namespace tavrin

@@ -47,4 +47,4 @@ private:
     QTimer m_dismissTimer;
 };
 
-}  // namespace tavrin
+} // namespace tavrin

@@ -36,4 +36,4 @@ void ElidedLabel::updateElidedText()
     setText(fontMetrics().elidedText(m_fullText, Qt::ElideMiddle, std::max(0, contentsRect().width())));
 }
 
-}  // namespace tavrin
+} // namespace tavrin

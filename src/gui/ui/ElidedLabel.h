@@ -26,4 +26,4 @@ private:
     QString m_fullText;
 };
 
-}  // namespace tavrin
+} // namespace tavrin

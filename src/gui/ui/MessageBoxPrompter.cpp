@@ -2,61 +2,119 @@
 
 #include "core/text/LocalizedStrings.h"
 
+#include <QDesktopServices>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QUrl>
 
 namespace tavrin {
 
 namespace {
 
+// The labels of a two-button question.
+struct Answers {
+    const char* acceptKey;
+    const char* rejectKey;
+};
+
 // A two-button question; true when the first (default) button was chosen. Esc and the
 // window's close button choose the second.
-bool ask(QWidget* parent, QMessageBox::Icon icon, const QString& title, const QString& message,
-    const char* acceptKey, const char* rejectKey)
+bool ask(QWidget* parent, const PromptText& text, QMessageBox::Icon icon, Answers answers)
 {
-    QMessageBox box(icon, title, message, QMessageBox::NoButton, parent);
-    QPushButton* accept = box.addButton(localized(acceptKey), QMessageBox::AcceptRole);
-    QPushButton* reject = box.addButton(localized(rejectKey), QMessageBox::RejectRole);
+    QMessageBox box(icon, text.title, text.message, QMessageBox::NoButton, parent);
+    QPushButton* accept = box.addButton(localized(answers.acceptKey), QMessageBox::AcceptRole);
+    QPushButton* reject = box.addButton(localized(answers.rejectKey), QMessageBox::RejectRole);
     box.setDefaultButton(accept);
     box.setEscapeButton(reject);
     box.exec();
     return box.clickedButton() == accept;
 }
 
-void alert(QWidget* parent, QMessageBox::Icon icon, const QString& title, const QString& message)
+constexpr char kProfileExtension[] = ".tnprofile";
+
+QString profileFilter()
 {
-    QMessageBox box(icon, title, message, QMessageBox::NoButton, parent);
-    box.setDefaultButton(box.addButton(localized("OK"), QMessageBox::AcceptRole));
-    box.exec();
+    return localized("PROFILEFILEFILTER") + QStringLiteral(" (*.tnprofile)");
+}
+
+QString chooseLogFile(QWidget* parent, const ChooserQuestion& question)
+{
+    QFileDialog dialog(parent, question.title, question.folder, localized("LOGFILEFILTER"));
+    dialog.setObjectName(QStringLiteral("logFileChooser"));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setOptions(QFileDialog::ReadOnly);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return dialog.selectedFiles().constFirst();
+}
+
+QString chooseProfileToSave(QWidget* parent, const ChooserQuestion& question)
+{
+    QString path = QFileDialog::getSaveFileName(parent, question.title, question.folder, profileFilter());
+    if (!path.isEmpty() && !path.endsWith(QLatin1String(kProfileExtension), Qt::CaseInsensitive))
+        path += QLatin1String(kProfileExtension);
+    return path;
+}
+
+QMessageBox::Icon iconOf(Prompter::Severity severity)
+{
+    switch (severity) {
+    case Prompter::Severity::Information:
+        return QMessageBox::Information;
+    case Prompter::Severity::Warning:
+        return QMessageBox::Warning;
+    case Prompter::Severity::Critical:
+        return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
 }
 
 } // namespace
 
 bool MessageBoxPrompter::confirmRename(QWidget* parent)
 {
-    return ask(parent, QMessageBox::Question, localized("ITEMRENAMINGTITLE"), localized("ITEMRENAMINGMESSAGE"),
-        "YES", "NO");
+    return ask(parent, { localized("ITEMRENAMINGTITLE"), localized("ITEMRENAMINGMESSAGE") },
+        QMessageBox::Question, { "YES", "NO" });
 }
 
 bool MessageBoxPrompter::continueWithoutLog(QWidget* parent)
 {
-    return ask(parent, QMessageBox::Warning, localized("ITEMRENAMINGTITLE"), localized("LOGCREATEFAILED"),
-        "CONTINUE", "ABORT");
+    return ask(parent, { localized("ITEMRENAMINGTITLE"), localized("LOGCREATEFAILED") }, QMessageBox::Warning,
+        { "CONTINUE", "ABORT" });
 }
 
-void MessageBoxPrompter::warn(QWidget* parent, const QString& title, const QString& message)
+void MessageBoxPrompter::alert(QWidget* parent, Severity severity, const PromptText& text)
 {
-    alert(parent, QMessageBox::Warning, title, message);
+    QMessageBox box(iconOf(severity), text.title, text.message, QMessageBox::NoButton, parent);
+    box.setDefaultButton(box.addButton(localized("OK"), QMessageBox::AcceptRole));
+    box.exec();
 }
 
-void MessageBoxPrompter::inform(QWidget* parent, const QString& title, const QString& message)
+bool MessageBoxPrompter::askYesNo(QWidget* parent, const PromptText& text)
 {
-    alert(parent, QMessageBox::Information, title, message);
+    return ask(parent, text, QMessageBox::Question, { "YES", "NO" });
 }
 
-bool MessageBoxPrompter::askYesNo(QWidget* parent, const QString& title, const QString& message)
+QString MessageBoxPrompter::choose(QWidget* parent, Choice choice, const ChooserQuestion& question)
 {
-    return ask(parent, QMessageBox::Question, title, message, "YES", "NO");
+    switch (choice) {
+    case Choice::LogFile:
+        return chooseLogFile(parent, question);
+    case Choice::OpenProfile:
+        return QFileDialog::getOpenFileName(parent, question.title, question.folder, profileFilter());
+    case Choice::SaveProfile:
+        return chooseProfileToSave(parent, question);
+    case Choice::Folder:
+        return QFileDialog::getExistingDirectory(parent, question.title, question.folder);
+    }
+    return {};
+}
+
+bool MessageBoxPrompter::openWithDesktop(const QString& path)
+{
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
 } // namespace tavrin

@@ -1,12 +1,11 @@
-// The session side of the controller: what it keeps between runs, the profile in use and the
-// preferences. Kept apart from the list and worker side so each stays readable.
+#include "gui/control/SessionController.h"
 
-#include "gui/app/TavrinAppController.h"
-
-#include "core/profiles/SettingsRecord.h"
 #include "core/formats/KeyedArchive.h"
+#include "core/profiles/Settings.h"
+#include "core/profiles/SettingsRecord.h"
 #include "core/text/LocalizedStrings.h"
-#include "gui/app/LivePreview.h"
+#include "gui/control/ListController.h"
+#include "gui/control/LivePreview.h"
 
 #include <QDebug>
 #include <QFileInfo>
@@ -31,22 +30,39 @@ private:
     bool& m_flag;
 };
 
-ProfileOutcome loadFailure(ProfileLoadResult result, const QString& path, const QString& reason)
+// A profile that could not be opened, and why.
+struct LoadFailure {
+    ProfileLoadResult result;
+    QString path;
+    QString reason;
+};
+
+ProfileOutcome failureOutcome(const LoadFailure& failure)
 {
-    const QString name = QFileInfo(path).fileName();
-    if (result == ProfileLoadResult::Incompatible)
-        return {result, localized("PROFILEINCOMPATIBLE").arg(name)};
+    const QString name = QFileInfo(failure.path).fileName();
+    if (failure.result == ProfileLoadResult::Incompatible)
+        return { failure.result, localized("PROFILEINCOMPATIBLE").arg(name) };
     QString message = localized("PROFILELOADFAILED").arg(name);
-    if (!reason.isEmpty())
-        message += QLatin1Char('\n') + reason;
-    return {result, message};
+    if (!failure.reason.isEmpty())
+        message += QLatin1Char('\n') + failure.reason;
+    return { failure.result, message };
 }
 
 } // namespace
 
+SessionController::SessionController(Settings& settings, const ListController& list, QObject* parent)
+    : QObject(parent)
+    , m_settings(settings)
+    , m_list(list)
+    , m_preferences(Preferences::defaults())
+    , m_userDefaults(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Palisade Soft"),
+          QStringLiteral("Tavrin3"))
+{
+}
+
 // The launch: the options start from their start values; the profile in use at the last
 // quit is opened again, or else the options of the last quit are applied.
-std::optional<ProfileOutcome> TavrinAppController::applicationDidFinishLaunching()
+std::optional<ProfileOutcome> SessionController::applicationDidFinishLaunching()
 {
     std::optional<ProfileOutcome> failure;
     restoreRules();
@@ -58,21 +74,24 @@ std::optional<ProfileOutcome> TavrinAppController::applicationDidFinishLaunching
             failure = outcome;
         }
     }
-    if (m_currProfileFile.isEmpty()) {
-        const QVariantMap record = m_userDefaults.value(QLatin1String(userdefaults::Defaults)).toMap();
-        const ProfileLoading loading(m_isProfileLoading);
-        QString error;
-        if (!record.isEmpty() && !setSettings(m_settings, record, &error))
-            qWarning().noquote() << QStringLiteral("Error in applicationDidFinishLaunching : %1").arg(error);
-    }
-    restoreLivePreview();
+    if (m_currProfileFile.isEmpty())
+        restoreLastOptions();
     m_userDefaults.sync();
     return failure;
 }
 
+void SessionController::restoreLastOptions()
+{
+    const QVariantMap record = m_userDefaults.value(QLatin1String(userdefaults::Defaults)).toMap();
+    const ProfileLoading loading(m_isProfileLoading);
+    QString error;
+    if (!record.isEmpty() && !setSettings(m_settings, record, &error))
+        qWarning().noquote() << QStringLiteral("Error in applicationDidFinishLaunching : %1").arg(error);
+}
+
 // A rule chain that cannot be read back is dropped, so that the next start does not trip
 // over it again.
-void TavrinAppController::restoreRules()
+void SessionController::restoreRules()
 {
     m_rules.clear();
     const QVariant stored = m_userDefaults.value(QLatin1String(userdefaults::LastRule));
@@ -87,19 +106,27 @@ void TavrinAppController::restoreRules()
     m_userDefaults.remove(QLatin1String(userdefaults::LastRule));
 }
 
-void TavrinAppController::restoreLivePreview()
+LivePreviewChoice SessionController::restoredLivePreview() const
 {
-    const bool enabled = m_userDefaults.value(QLatin1String(userdefaults::LivePreview), false).toBool();
-    const bool allFiles = m_userDefaults.value(QLatin1String(userdefaults::LivePreviewAllFiles), false).toBool();
-    const QString limit = m_userDefaults
-                              .value(QLatin1String(userdefaults::LivePreviewFilesLimit),
-                                  QString::fromLatin1(LivePreview::DefaultFilesLimit))
-                              .toString();
-    setLivePreviewCoverage(allFiles, limit);
-    setLivePreview(enabled);
+    LivePreviewChoice choice;
+    choice.enabled = m_userDefaults.value(QLatin1String(userdefaults::LivePreview), false).toBool();
+    choice.allFiles = m_userDefaults.value(QLatin1String(userdefaults::LivePreviewAllFiles), false).toBool();
+    choice.filesLimit = m_userDefaults
+                            .value(QLatin1String(userdefaults::LivePreviewFilesLimit),
+                                QString::fromLatin1(LivePreview::DefaultFilesLimit))
+                            .toString();
+    return choice;
 }
 
-void TavrinAppController::applicationShouldTerminate()
+void SessionController::rememberLivePreview(const LivePreviewChoice& choice)
+{
+    m_userDefaults.setValue(QLatin1String(userdefaults::LivePreview), choice.enabled);
+    m_userDefaults.setValue(QLatin1String(userdefaults::LivePreviewAllFiles), choice.allFiles);
+    m_userDefaults.setValue(QLatin1String(userdefaults::LivePreviewFilesLimit), choice.filesLimit);
+    m_userDefaults.sync();
+}
+
+void SessionController::applicationShouldTerminate()
 {
     saveProfileInUseWhenAutomatic();
     m_userDefaults.setValue(QLatin1String(userdefaults::Defaults), getCurrentSettings(m_settings));
@@ -111,7 +138,7 @@ void TavrinAppController::applicationShouldTerminate()
     m_userDefaults.sync();
 }
 
-void TavrinAppController::saveProfileInUseWhenAutomatic()
+void SessionController::saveProfileInUseWhenAutomatic()
 {
     if (m_currProfileFile.isEmpty() || !m_preferences.automaticSaveCurrProfile)
         return;
@@ -120,10 +147,10 @@ void TavrinAppController::saveProfileInUseWhenAutomatic()
         qWarning().noquote() << QStringLiteral("Error in saveProfile : %1").arg(error);
 }
 
-ProfileOutcome TavrinAppController::setCurrentSettings(const QString& path)
+ProfileOutcome SessionController::setCurrentSettings(const QString& path)
 {
-    if (m_isExecuting)
-        return {ProfileLoadResult::Failed, localized("PROFILELOADBUSY")};
+    if (m_list.isExecuting())
+        return { ProfileLoadResult::Failed, localized("PROFILELOADBUSY") };
     if (path != m_currProfileFile)
         saveProfileInUseWhenAutomatic();
     ProfileLoadResult result = ProfileLoadResult::Failed;
@@ -133,13 +160,13 @@ ProfileOutcome TavrinAppController::setCurrentSettings(const QString& path)
         result = loadProfileFile(m_settings, path, &error);
     }
     if (result != ProfileLoadResult::Loaded)
-        return loadFailure(result, path, error);
+        return failureOutcome({ result, path, error });
     setCurrProfileFile(path);
     emit currentSettingsApplied();
     return {};
 }
 
-bool TavrinAppController::saveProfile(const QString& path, QString* error)
+bool SessionController::saveProfile(const QString& path, QString* error)
 {
     if (!saveProfileFile(m_settings, path, error))
         return false;
@@ -147,9 +174,9 @@ bool TavrinAppController::saveProfile(const QString& path, QString* error)
     return true;
 }
 
-void TavrinAppController::loadDefaultProfile()
+void SessionController::loadDefaultProfile()
 {
-    if (m_isExecuting)
+    if (m_list.isExecuting())
         return;
     saveProfileInUseWhenAutomatic();
     {
@@ -162,7 +189,7 @@ void TavrinAppController::loadDefaultProfile()
     emit currentSettingsApplied();
 }
 
-void TavrinAppController::setCurrProfileFile(const QString& path)
+void SessionController::setCurrProfileFile(const QString& path)
 {
     if (path == m_currProfileFile)
         return;
@@ -170,25 +197,10 @@ void TavrinAppController::setCurrProfileFile(const QString& path)
     emit currProfileFileChanged(path);
 }
 
-bool TavrinAppController::applyPreferences(const Preferences& preferences, QString* error)
+bool SessionController::applyPreferences(const Preferences& preferences, QString* error)
 {
     m_preferences = preferences;
     return savePreferences(preferences, error);
-}
-
-void TavrinAppController::setLivePreview(bool enabled)
-{
-    m_livePreview->setLivePreviewEnabled(enabled);
-    m_userDefaults.setValue(QLatin1String(userdefaults::LivePreview), enabled);
-    m_userDefaults.sync();
-}
-
-void TavrinAppController::setLivePreviewCoverage(bool allFiles, const QString& filesLimit)
-{
-    m_livePreview->setCoverage(allFiles, filesLimit);
-    m_userDefaults.setValue(QLatin1String(userdefaults::LivePreviewAllFiles), allFiles);
-    m_userDefaults.setValue(QLatin1String(userdefaults::LivePreviewFilesLimit), filesLimit);
-    m_userDefaults.sync();
 }
 
 } // namespace tavrin

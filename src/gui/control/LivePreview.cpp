@@ -1,24 +1,29 @@
-#include "gui/app/LivePreview.h"
+#include "gui/control/LivePreview.h"
 
+#include "core/profiles/Settings.h"
 #include "core/text/StringUtilities.h"
-#include "gui/app/TavrinAppController.h"
+#include "gui/control/ListController.h"
+#include "gui/control/RenameController.h"
+#include "gui/control/SessionController.h"
 
 #include <algorithm>
 
 namespace tavrin {
 
-LivePreview::LivePreview(TavrinAppController& controller)
-    : QObject(&controller)
-    , m_controller(controller)
+LivePreview::LivePreview(RenameController& rename)
+    : QObject(&rename)
+    , m_rename(rename)
 {
     m_quickPreviewTimer.setSingleShot(true);
     m_quickPreviewTimer.setInterval(DelayMilliseconds);
     connect(&m_quickPreviewTimer, &QTimer::timeout, this, &LivePreview::quickPreviewTimerMethod);
-    connect(&controller.settings(), &Settings::settingsChanged, this, &LivePreview::scheduleQuickPreview);
-    connect(&controller, &TavrinAppController::currentSettingsApplied, this, &LivePreview::scheduleQuickPreview);
+    connect(
+        &rename.session().settings(), &Settings::settingsChanged, this, &LivePreview::scheduleQuickPreview);
+    connect(&rename.session(), &SessionController::currentSettingsApplied, this,
+        &LivePreview::scheduleQuickPreview);
     // New items, and a new order that sequences follow, change the names too.
-    connect(&controller, &TavrinAppController::addFinished, this, &LivePreview::scheduleQuickPreview);
-    connect(&controller, &TavrinAppController::orderChanged, this, &LivePreview::scheduleQuickPreview);
+    connect(&rename.list(), &ListController::addFinished, this, &LivePreview::scheduleQuickPreview);
+    connect(&rename.list(), &ListController::orderChanged, this, &LivePreview::scheduleQuickPreview);
 }
 
 int LivePreview::recordLimit() const
@@ -45,11 +50,12 @@ void LivePreview::setCoverage(bool allFiles, const QString& filesLimit)
     emit stateChanged();
 }
 
-// A profile being applied changes many options at once; the preview waits for the end,
-// where the controller asks for one.
+// A profile being applied changes many options at once, and so does the normalising at the
+// start of a preview; the preview waits for the end, where one is asked for.
 void LivePreview::scheduleQuickPreview()
 {
-    if (!m_isLivePreviewEnabled || m_controller.isProfileLoading() || m_controller.shownCount() == 0)
+    if (!m_isLivePreviewEnabled || m_rename.session().isProfileLoading() || m_rename.isNormalising()
+        || m_rename.list().shownCount() == 0)
         return;
     m_quickPreviewTimer.start();
 }
@@ -58,11 +64,11 @@ void LivePreview::scheduleQuickPreview()
 // the run to end.
 void LivePreview::quickPreviewTimerMethod()
 {
-    if (m_controller.isExecuting()) {
+    if (m_rename.list().isExecuting()) {
         m_quickPreviewTimer.start();
         return;
     }
-    m_controller.quickPreview(recordLimit());
+    m_rename.quickPreview(recordLimit());
 }
 
 } // namespace tavrin

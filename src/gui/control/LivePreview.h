@@ -6,12 +6,14 @@
 
 namespace tavrin {
 
-class TavrinAppController;
+class ListController;
+class RenameController;
+class SessionController;
 
-// Previews by itself shortly after the options or the listed items change, so the New Name column follows what
-// the user types. Changes that come in quick succession collapse into one preview 0.4 s
-// after the last of them. Only the first records up to the limit are previewed unless the
-// user asked for all of them, so that a long list does not slow typing down.
+// Previews by itself shortly after the options or the listed items change, so the New Name
+// column follows what the user types. Changes that come in quick succession collapse into
+// one preview 0.4 s after the last of them. Only the first records up to the limit are
+// previewed unless the user asked for all of them, so that a long list does not slow typing.
 class LivePreview : public QObject {
     Q_OBJECT
 
@@ -19,7 +21,7 @@ public:
     static constexpr int DelayMilliseconds = 400;
     static constexpr char DefaultFilesLimit[] = "200";
 
-    explicit LivePreview(TavrinAppController& controller);
+    explicit LivePreview(RenameController& rename);
 
     bool isLivePreviewEnabled() const { return m_isLivePreviewEnabled; }
     bool isLivePreviewAllFiles() const { return m_isLivePreviewAllFiles; }
@@ -41,7 +43,7 @@ private:
     void scheduleQuickPreview();
     void quickPreviewTimerMethod();
 
-    TavrinAppController& m_controller;
+    RenameController& m_rename;
     QTimer m_quickPreviewTimer;
     bool m_isLivePreviewEnabled = false;
     bool m_isLivePreviewAllFiles = false;

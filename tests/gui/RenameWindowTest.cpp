@@ -1,0 +1,339 @@
+#include "GuiFixture.h"
+
+#include "core/list/StatusTexts.h"
+#include "core/log/RenameLogReader.h"
+#include "core/text/LocalizedStrings.h"
+#include "gui/engine/ActionTab.h"
+#include "gui/engine/ActionTabs.h"
+#include "gui/engine/RenamePanel.h"
+#include "gui/list/FileTableView.h"
+#include "gui/list/ItemIconCache.h"
+#include "gui/log/LogTableModel.h"
+#include "gui/log/UndoSheetController.h"
+#include "gui/ui/AttachedWindow.h"
+#include "gui/ui/ElidedLabel.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTableView>
+#include <QTimer>
+
+using namespace tavrin;
+using namespace tavrin::test;
+
+namespace {
+
+// A step of the user on a tab: presses the button of that name, or types `text` into the
+// field of that option.
+struct Step {
+    const char* name;
+    QString text;
+};
+
+// The window renaming through its action tabs, the way a user does it.
+class RenameWindowTest : public WindowFixture {
+protected:
+    QAction* previewAction() const { return window.renamePanel()->previewAction(); }
+    QAction* applyAction() const { return window.renamePanel()->applyAction(); }
+    QString progressLine() const { return child<ElidedLabel>(u"progressLabel"_s)->fullText(); }
+    QString label(const QString& name) const { return child<QLabel>(name)->text(); }
+
+    ActionTab* showTab(int tabNumber)
+    {
+        ActionTabs* tabs = window.renamePanel()->tabs();
+        ActionTab* page = tabs->pageForTab(tabNumber);
+        EXPECT_NE(page, nullptr) << tabNumber;
+        QTest::mouseClick(
+            tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(tabs->indexOf(page)).center());
+        EXPECT_EQ(settings().selectedTab(), tabNumber);
+        return page;
+    }
+
+    void perform(ActionTab* page, const Step& step)
+    {
+        if (step.text.isNull()) {
+            auto* button = page->findChild<QAbstractButton*>(QString::fromLatin1(step.name));
+            ASSERT_NE(button, nullptr) << step.name;
+            button->setFocus();
+            QTest::keyClick(button, Qt::Key_Space);
+            return;
+        }
+        auto* field = qobject_cast<QLineEdit*>(page->fieldForOption(QString::fromLatin1(step.name)));
+        ASSERT_NE(field, nullptr) << step.name;
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, step.text);
+    }
+
+    void chooseUpperCaseOnTheTab()
+    {
+        ActionTab* page = showTab(tabs::General);
+        perform(page, { "generalOption0", QString() });
+        auto* chooser = qobject_cast<QComboBox*>(page->fieldForOption(u"generalFileNameCase"_s));
+        chooser->setFocus();
+        QTest::keyClick(chooser, Qt::Key_End);
+        QTest::keyClick(chooser, Qt::Key_Home);
+        ASSERT_EQ(settings().generalFileNameCase(), 1);
+    }
+
+    bool clickAndWait(const QString& button, void (RenameController::*finished)())
+    {
+        return runAndWait(&rename(), finished, [&] {
+            QTest::mouseClick(child<QPushButton>(button), Qt::LeftButton);
+            return true;
+        });
+    }
+
+    bool previewAndWait()
+    {
+        return clickAndWait(u"previewActionButton"_s, &RenameController::previewFinished);
+    }
+    bool applyAndWait() { return clickAndWait(u"applyActionButton"_s, &RenameController::applyFinished); }
+
+    QStringList shownNewNames() const
+    {
+        QStringList names;
+        for (int row = 0; row < window.tableModel()->rowCount(); ++row)
+            names.append(newName(row));
+        return names;
+    }
+
+    QImage iconOf(int row) const
+    {
+        const QModelIndex index = window.tableModel()->index(row, FileTableModel::IconColumn);
+        return index.data(Qt::DecorationRole).value<QIcon>().pixmap(QSize(16, 16)).toImage();
+    }
+};
+
+// The whole road: a preview, a rename that logs and badges its rows, and the batch undone
+// from the sheet the window opens.
+TEST_F(RenameWindowTest, PreviewRenameAndUndoTheBatch)
+{
+    listFiles({ u"beach day.jpg"_s, u"notes.txt"_s, u"README.md"_s });
+    chooseUpperCaseOnTheTab();
+    EXPECT_FALSE(applyAction()->isEnabled()) << "nothing to rename before a preview";
+
+    ASSERT_TRUE(previewAndWait());
+    EXPECT_EQ(shownNewNames(),
+        QStringList({ u"BEACH DAY.jpg"_s, u"NOTES.txt"_s, QLatin1String(status::NoChanges) }));
+    EXPECT_TRUE(applyAction()->isEnabled());
+    EXPECT_TRUE(label(u"timeLabel"_s).startsWith(u"Preview time: "_s));
+    EXPECT_TRUE(progressLine().isEmpty()) << "a preview whose actions succeeded leaves no message";
+    EXPECT_TRUE(tree.exists(u"files/beach day.jpg"_s)) << "a preview changes nothing on disk";
+    const QImage plainIcon = iconOf(1);
+
+    ASSERT_TRUE(applyAndWait());
+    EXPECT_EQ(prompter->confirmations, 1);
+    EXPECT_EQ(prompter->logQuestions, 0) << "the log folder is writable";
+    EXPECT_EQ(listedNames(), QStringList({ u"BEACH DAY.jpg"_s, u"NOTES.txt"_s, u"README.md"_s }));
+    EXPECT_EQ(shownNewNames(),
+        QStringList({ QLatin1String(status::RenamingOk), QLatin1String(status::RenamingOk),
+            QLatin1String(status::NoChanges) }));
+    EXPECT_NE(iconOf(1), plainIcon) << "the row wears a badge after the rename";
+    EXPECT_EQ(iconOf(1), ItemIconCache().icon(list().shownItems()[1]).pixmap(QSize(16, 16)).toImage());
+    EXPECT_FALSE(applyAction()->isEnabled()) << "a second rename needs a new preview";
+    EXPECT_EQ(label(u"countLabel"_s), u"Files renamed: 2"_s);
+    const QString logPath = rename().lastApplyOutcome().logPath;
+    EXPECT_EQ(progressLine(), u"Log saved as "_s + logPath);
+    EXPECT_TRUE(label(u"timeLabel"_s).startsWith(u"Renaming time: "_s));
+    ASSERT_EQ(readLogEntries(logPath)->entries.size(), 2);
+
+    QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
+    auto* sheet = window.findChild<UndoSheetController*>();
+    ASSERT_NE(sheet, nullptr);
+    ASSERT_EQ(sheet->model()->rowCount(), 1);
+    EXPECT_EQ(sheet->model()->log(0).path, logPath);
+    sheet->table()->selectRow(0);
+    ASSERT_TRUE(runAndWait(sheet, &UndoSheetController::undoFinished, [&] {
+        QTest::mouseClick(sheet->findChild<QPushButton*>(u"undoButton"_s), Qt::LeftButton);
+        return true;
+    }));
+    EXPECT_EQ(tree.read(u"files/beach day.jpg"_s), QByteArray("beach day.jpg"));
+    EXPECT_EQ(tree.read(u"files/notes.txt"_s), QByteArray("notes.txt"));
+    EXPECT_FALSE(QFile::exists(logPath));
+    EXPECT_TRUE(prompter->alerts.first().message.contains(u"Items given back their old names: 2"_s));
+    EXPECT_TRUE(label(u"timeLabel"_s).startsWith(u"Undo time: "_s));
+}
+
+TEST_F(RenameWindowTest, RenameAnsweredNoRenamesNothing)
+{
+    listFiles({ u"a.txt"_s });
+    chooseUpperCase();
+    ASSERT_TRUE(previewAndWait());
+    prompter->confirmAnswer = false;
+    QSignalSpy applied(&rename(), &RenameController::applyFinished);
+
+    QTest::mouseClick(child<QPushButton>(u"applyActionButton"_s), Qt::LeftButton);
+    QCoreApplication::processEvents();
+
+    EXPECT_EQ(prompter->confirmations, 1);
+    EXPECT_FALSE(list().isExecuting());
+    EXPECT_EQ(applied.count(), 0);
+    EXPECT_TRUE(tree.exists(u"files/a.txt"_s));
+    EXPECT_EQ(shownNewNames(), QStringList({ u"A.txt"_s }));
+    EXPECT_TRUE(applyAction()->isEnabled()) << "the proposals are still there to apply";
+}
+
+struct LogQuestionRow {
+    bool continueAnswer;
+    const char* nameOnDisk;
+    QString newName;
+    QString countText;
+    const char* progressKey;
+};
+
+// Where the log cannot be written, the window asks on its own thread; the answer decides.
+TEST_F(RenameWindowTest, AnUnwritableLogFolderAsksWhetherToRenameWithoutALog)
+{
+    const LogQuestionRow rows[] = {
+        { false, "a.txt", u"A.txt"_s, u"Files renamed: 0"_s, "RENAMINGABORTEDNOLOG" },
+        { true, "A.txt", QLatin1String(status::RenamingOk), u"Files renamed: 1"_s, "LOGNOTWRITTEN" },
+    };
+    listFiles({ u"a.txt"_s });
+    controller.session().setLogFolderPath(tree.file(u"blocker"_s) + u"/Logs"_s);
+    chooseUpperCase();
+    for (const LogQuestionRow& row : rows) {
+        ASSERT_TRUE(previewAndWait());
+        prompter->continueAnswer = row.continueAnswer;
+        ASSERT_TRUE(applyAndWait());
+        EXPECT_TRUE(prompter->logQuestionOnGuiThread) << "a dialog is never opened from the worker";
+        EXPECT_TRUE(tree.exists(u"files/"_s + QString::fromLatin1(row.nameOnDisk)));
+        EXPECT_EQ(newName(0), row.newName);
+        EXPECT_EQ(label(u"countLabel"_s), row.countText);
+        EXPECT_EQ(progressLine(), localized(row.progressKey));
+    }
+    EXPECT_EQ(prompter->logQuestions, 2);
+}
+
+TEST_F(RenameWindowTest, PreviewWithAnEmptyListPointsAtThePreviewButton)
+{
+    auto* attached = child<AttachedWindow>(u"attachedWindow"_s);
+    QSignalSpy executing(&list(), &ListController::executingChanged);
+    QTest::keyClick(&window, Qt::Key_F5);
+    EXPECT_TRUE(attached->isVisible());
+    EXPECT_EQ(attached->text(), localized("NOITEMSTOPREVIEW"));
+    EXPECT_EQ(attached->anchor(), window.renamePanel()->previewButton());
+    EXPECT_EQ(executing.count(), 0) << "no preview was started";
+    EXPECT_TRUE(prompter->alerts.isEmpty());
+}
+
+struct TabRow {
+    int tab;
+    QStringList names;
+    QList<Step> steps;
+    QStringList expected;
+};
+
+TEST_F(RenameWindowTest, EachTabPreviewsWhatItsInputsSay)
+{
+    const TabRow rows[] = {
+        { tabs::ReplaceRemove, { u"a-b-c.txt"_s, u"x-y.jpg"_s },
+            { { "replaceRemoveThis", u"-"_s }, { "replaceRemoveWith", u"_"_s },
+                { "isReplaceRemoveAllOccurrence", {} } },
+            { u"a_b_c.txt"_s, u"x_y.jpg"_s } },
+        { tabs::InsertDelete, { u"a_b_c.txt"_s, u"one_two.md"_s },
+            { { "insertDeleteInsert", u"X"_s }, { "insertPlace4", {} },
+                { "insertDeleteInsertAtAfterText", u"_"_s },
+                { "insertDeleteInsertAtAfterOccurrence", u"2"_s } },
+            { u"a_b_Xc.txt"_s, QLatin1String(status::NoChanges) } },
+        { tabs::AlphaNumeric, { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s },
+            { { "alphaNumericNumericStartWith", u"9"_s }, { "isAlphaNumericSufix", {} },
+                { "isAlphaNumericSeperator", {} }, { "alphaNumericSeperator", u"-"_s },
+                { "alphaNumericPaddingMask", u"00"_s } },
+            { u"a-09.jpg"_s, u"b-10.jpg"_s, u"c-11.jpg"_s } },
+    };
+    for (const TabRow& row : rows) {
+        list().clear();
+        listFiles(row.names);
+        ActionTab* page = showTab(row.tab);
+        for (const Step& step : row.steps)
+            perform(page, step);
+        ASSERT_TRUE(previewAndWait());
+        EXPECT_EQ(shownNewNames(), row.expected) << row.tab;
+    }
+    EXPECT_TRUE(prompter->alerts.isEmpty());
+}
+
+struct MissingInput {
+    int tab;
+    QList<Step> steps;
+    const char* focusKey;
+    const char* titleKey;
+    const char* messageKey;
+};
+
+// The alert names what is missing, and the focus goes to the field that needs it.
+TEST_F(RenameWindowTest, AMissingInputWarnsAndTakesTheFocusToItsField)
+{
+    const MissingInput rows[] = {
+        { tabs::InsertDelete, { { "insertPlace0", {} } }, "insertDeleteInsert", "INSERTINVALIDINPUT",
+            "ENTERVALIDVALUE" },
+        { tabs::InsertDelete, { { "insertPlace3", {} }, { "insertDeleteInsert", u"X"_s } },
+            "insertDeleteInsertAtBeforeText", "INSERTTEXTATBEFORETEXT", "ENTERSOMETEXT" },
+        { tabs::ReplaceRemove, {}, "replaceRemoveThis", "REPLACEREMOVEINVALIDINPUT", "ENTERVALIDVALUE" },
+        { tabs::General, { { "generalOption8", {} } }, "generalRemoveAfterString", "GENERALINVALIDINPUT",
+            "ENTERVALIDVALUE" },
+    };
+    listFiles({ u"a_b.txt"_s });
+    for (const MissingInput& row : rows) {
+        ActionTab* page = showTab(row.tab);
+        for (const Step& step : row.steps)
+            perform(page, step);
+        window.tableView()->setFocus();
+        prompter->alerts.clear();
+        QSignalSpy executing(&list(), &ListController::executingChanged);
+
+        QTest::keyClick(&window, Qt::Key_R, Qt::ControlModifier);
+
+        EXPECT_EQ(
+            prompter->alertTexts(), QStringList(localized(row.titleKey) + u'|' + localized(row.messageKey)))
+            << row.focusKey;
+        EXPECT_EQ(QApplication::focusWidget(), page->fieldForOption(QString::fromLatin1(row.focusKey)))
+            << row.focusKey;
+        EXPECT_EQ(executing.count(), 0) << "no preview was started";
+    }
+}
+
+// A long preview runs off the GUI thread: the window repaints, the options wait, Escape
+// reaches its cancel, and the undo sheet is refused until it ends.
+TEST_F(RenameWindowTest, TheWindowKeepsRunningWhileALongPreviewWorks)
+{
+    QStringList names;
+    for (int i = 0; i < 4000; ++i)
+        names.append(u"file %1.txt"_s.arg(i));
+    listFiles(names);
+    chooseUpperCase();
+    int ticksWhileExecuting = 0;
+    QTimer ticker;
+    // Escape goes once the event loop has run during the preview.
+    QObject::connect(&ticker, &QTimer::timeout, [&] {
+        if (list().isExecuting() && ++ticksWhileExecuting == 1)
+            QTest::keyClick(&window, Qt::Key_Escape);
+    });
+    ticker.start(0);
+    QSignalSpy cancelled(child<QAction>(u"cancelAction"_s), &QAction::triggered);
+
+    ASSERT_TRUE(runAndWait(&rename(), &RenameController::previewFinished, [&] {
+        QTest::keyClick(&window, Qt::Key_F5);
+        EXPECT_TRUE(list().isExecuting()) << "the preview runs off the GUI thread";
+        EXPECT_FALSE(previewAction()->isEnabled());
+        EXPECT_FALSE(window.renamePanel()->tabs()->isEnabled()) << "no option changes meanwhile";
+        EXPECT_TRUE(child<QPushButton>(u"cancelActionButton"_s)->isEnabled());
+        EXPECT_EQ(progressLine(), localized("GENERATINGPREVIEWPLEASEWAIT"));
+        EXPECT_EQ(window.tableModel()->rowCount(), 4000) << "the table keeps showing the list";
+        EXPECT_FALSE(child<QAction>(u"undoBatchAction"_s)->isEnabled());
+        QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(window.findChild<UndoSheetController*>(), nullptr) << "no undo while a batch runs";
+        return true;
+    }));
+    EXPECT_GT(ticksWhileExecuting, 0) << "the event loop ran during the preview";
+    EXPECT_EQ(cancelled.count(), 1);
+    EXPECT_TRUE(previewAction()->isEnabled());
+    EXPECT_FALSE(child<QAction>(u"cancelAction"_s)->isEnabled());
+}
+
+} // namespace
