@@ -130,7 +130,8 @@ bool confirmApply(bool yes, QTextStream& err)
 
 struct RunResult {
     PreviewOutcome preview;
-    std::optional<ApplyOutcome> apply;
+    bool applyRequested = false;       // the apply command: its JSON always carries its keys
+    std::optional<ApplyOutcome> apply;  // set when something was applied
 };
 
 ApplyOutcome applyPreviewed(FileList& list, const OptionValues& values, const RenameOptions& extra,
@@ -155,10 +156,11 @@ void printResult(const LoadedList& loaded, const QStringList& namesBefore, const
 {
     if (json) {
         QJsonObject root = listJson(loaded.list, loaded.skipped);
-        if (result.apply) {
-            root.insert(QStringLiteral("renamed"), result.apply->renamed);
-            root.insert(QStringLiteral("log"), result.apply->logPath.isEmpty() ? QJsonValue(QJsonValue::Null)
-                                                                               : QJsonValue(result.apply->logPath));
+        if (result.applyRequested) {
+            const ApplyOutcome applied = result.apply.value_or(ApplyOutcome{});
+            root.insert(QStringLiteral("renamed"), applied.renamed);
+            root.insert(QStringLiteral("log"), applied.logPath.isEmpty() ? QJsonValue(QJsonValue::Null)
+                                                                        : QJsonValue(applied.logPath));
         }
         out << QJsonDocument(root).toJson(QJsonDocument::Indented);
     } else {
@@ -221,13 +223,14 @@ int runRename(Mode mode, const QStringList& arguments, QTextStream& out, QTextSt
     common.scan = ScanOptions{settings.isFolders(), settings.isIncludeSubFolders(), tab == tabs::FromFile};
     LoadedList loaded = loadList(common);
     reportProblems(loaded, !common.json, err);
-    // Apply works folder by folder in these modes; previewing in that order keeps the rows
-    // of the report in step with the renames.
-    if (mode == Mode::Apply && ((settings.isFolders() && settings.isIncludeSubFolders()) || tab == tabs::FromFile))
-        loaded.list.sortByFolderThenName();
-
     const PropertyOptionValues values(settings);
+    // Previewing in the order apply will work in keeps the rows of the report in step with
+    // the renames.
+    if (mode == Mode::Apply)
+        Pipeline(loaded.list, values).arrangeForApply();
+
     RunResult result;
+    result.applyRequested = mode == Mode::Apply;
     {
         TerminalProgress progress;
         const std::atomic_bool neverCancelled{false};

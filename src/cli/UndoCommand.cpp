@@ -63,12 +63,19 @@ const char* refusalKey(UndoOutcome outcome)
     return nullptr;
 }
 
+// The object `undo --json` prints, with every key also when nothing was undone ("log" is
+// null when there was no log to undo).
+void printJson(const UndoSummary& summary, const QString& path, QTextStream& out)
+{
+    const QJsonObject root { { QStringLiteral("entries"), summary.entries }, { QStringLiteral("restored"), summary.restored },
+        { QStringLiteral("log"), path.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(path) } };
+    out << QJsonDocument(root).toJson(QJsonDocument::Indented);
+}
+
 void printSummary(const UndoSummary& summary, const QString& path, bool json, QTextStream& out)
 {
     if (json) {
-        const QJsonObject root { { QStringLiteral("entries"), summary.entries },
-            { QStringLiteral("restored"), summary.restored }, { QStringLiteral("log"), path } };
-        out << QJsonDocument(root).toJson(QJsonDocument::Indented);
+        printJson(summary, path, out);
         return;
     }
     out << undoSummaryText(summary) << '\n';
@@ -92,6 +99,8 @@ int undoLog(const QString& path, const LogOptions& options, QTextStream& out, QT
     const CheckedLog checked = openLogFile(path);
     if (checked.check == LogCheck::Incompatible || checked.check == LogCheck::InUse) {
         err << localized(checked.messageKey()) << '\n';
+        if (options.json)
+            printJson(UndoSummary{}, path, out);
         return kExitFailed;
     }
     if (!options.yes && !confirmUndo(path, checked.entries, err)) {
@@ -106,6 +115,8 @@ int undoLog(const QString& path, const LogOptions& options, QTextStream& out, QT
     }
     if (const char* refusal = refusalKey(summary.outcome)) {
         err << localized(refusal) << '\n';
+        if (options.json)
+            printJson(summary, path, out);
         return kExitFailed;
     }
     printSummary(summary, path, options.json, out);
@@ -127,6 +138,8 @@ int runUndoCommand(const QStringList& arguments, QTextStream& out, QTextStream& 
     const QString path = chooseLog(options, error);
     if (path.isEmpty()) {
         err << "tavrin-cli " << kCommand << ": " << error << '\n';
+        if (options.json)
+            printJson(UndoSummary{}, QString(), out);
         return kExitFailed;
     }
     return undoLog(path, options, out, err);

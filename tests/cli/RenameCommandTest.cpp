@@ -168,6 +168,28 @@ TEST_F(RenameCommandTest, ATakenNameIsReportedAndLeftAlone)
     EXPECT_EQ(tree.read(QStringLiteral("d/a.md")), QByteArray("theirs"));
 }
 
+// Scripts read "renamed" and "log" after every apply, also when nothing could be applied:
+// each of the two files proposes the other's name, so both are refused.
+TEST_F(RenameCommandTest, ApplyJsonCarriesEveryKeyWhenNothingWasApplied)
+{
+    tree.file(QStringLiteral("d/a-b.txt"), "1");
+    tree.file(QStringLiteral("d/b-a.txt"), "2");
+    const CliRun apply = run(QStringLiteral("apply"),
+                             {QStringLiteral("--recursive"), QStringLiteral("--yes"), QStringLiteral("--json"),
+                              QStringLiteral("--tab"), QStringLiteral("general"), QStringLiteral("--set"),
+                              QStringLiteral("generalOptionIndex=6"), QStringLiteral("--set"),
+                              QStringLiteral("generalSwapSeperator=-")});
+    const QJsonObject root = parseJson(apply);
+    ASSERT_TRUE(root.contains(QStringLiteral("renamed"))) << apply.out.toStdString();
+    ASSERT_TRUE(root.contains(QStringLiteral("log")));
+    EXPECT_EQ(root.value(QStringLiteral("renamed")).toInt(-1), 0);
+    EXPECT_TRUE(root.value(QStringLiteral("log")).isNull());
+    EXPECT_TRUE(logs().isEmpty());
+
+    const CliRun preview = run(QStringLiteral("preview"), {QStringLiteral("--recursive"), QStringLiteral("--json")});
+    EXPECT_FALSE(parseJson(preview).contains(QStringLiteral("renamed"))) << "preview keeps its keys";
+}
+
 TEST_F(RenameCommandTest, PreviewReplacesByTheOptionsOfTheReplaceRemoveTab)
 {
     tree.file(QStringLiteral("d/a-b-c.txt"));

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QJsonArray>
+#include <QJsonObject>
 #include <gtest/gtest.h>
 
 using namespace tavrin;
@@ -142,6 +143,17 @@ TEST_F(UndoCommandTest, RefusesBadUsageAndLogsItCannotUndo)
     EXPECT_TRUE(tree.exists(QStringLiteral("d/ALPHA.txt")));
     EXPECT_TRUE(QFile::exists(other));
     EXPECT_EQ(logs().size(), 1);
+}
+
+TEST_F(UndoCommandTest, JsonCarriesEveryKeyWhenThereIsNothingToUndo)
+{
+    const CliRun undo = run({ QStringLiteral("undo"), QStringLiteral("--yes"), QStringLiteral("--json") });
+    EXPECT_EQ(undo.exitCode, 1);
+    const QJsonObject root = parseJson(undo);
+    EXPECT_EQ(root.value(QStringLiteral("entries")).toInt(-1), 0) << undo.out.toStdString();
+    EXPECT_EQ(root.value(QStringLiteral("restored")).toInt(-1), 0);
+    ASSERT_TRUE(root.contains(QStringLiteral("log")));
+    EXPECT_TRUE(root.value(QStringLiteral("log")).isNull());
 }
 
 // A batch killed half-way leaves its "#" log; the next run of either program finishes it.

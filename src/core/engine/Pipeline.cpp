@@ -160,10 +160,16 @@ void Pipeline::judgeProposal(FileSystemItem& item, PreviewOutcome& outcome) cons
     outcome.hasFilesForRenaming = true;
 }
 
-bool Pipeline::movesFoldersWithContents() const
+bool Pipeline::appliesFolderByFolder() const
 {
     return (m_options.boolean(Settings::isFoldersKey) && m_options.boolean(Settings::isIncludeSubFoldersKey))
         || m_options.integer(Settings::selectedTabKey) == tabs::FromFile;
+}
+
+void Pipeline::arrangeForApply()
+{
+    if (appliesFolderByFolder())
+        m_list.sortByFolderThenName();
 }
 
 namespace {
@@ -285,9 +291,8 @@ ApplyOutcome Pipeline::applyRenames(const QString& logFolder, const ContinueWith
                                     const std::atomic_bool& cancel, ProgressObserver* observer)
 {
     ApplyOutcome outcome;
-    const bool rewritePaths = movesFoldersWithContents();
-    if (rewritePaths)
-        m_list.sortByFolderThenName();
+    const bool rewritePaths = appliesFolderByFolder();
+    arrangeForApply();
     ApplyRun run(m_list, m_options, rewritePaths);
     if (!run.openLog(logFolder, continueWithoutLog)) {
         outcome.aborted = true;

@@ -72,6 +72,11 @@ public:
     PreviewOutcome preview(Proposer& proposer, const std::atomic_bool& cancel, ProgressObserver* observer,
                            int limit = -1);
 
+    // Puts the list in the order apply works in: folder by folder, a folder's items by name,
+    // when folders move with their contents (folders with sub-folders, or a rename list), so
+    // that renamed folders rewrite the paths below them. Otherwise the order stays.
+    void arrangeForApply();
+
     // Renames on disk every record that holds a proposal, logging each rename in a new log
     // in `logFolder`. Never overwrites anything.
     ApplyOutcome applyRenames(const QString& logFolder, const ContinueWithoutLog& continueWithoutLog,
@@ -79,7 +84,7 @@ public:
 
 private:
     void judgeProposal(FileSystemItem& item, PreviewOutcome& outcome) const;
-    bool movesFoldersWithContents() const;
+    bool appliesFolderByFolder() const;
 
     FileList& m_list;
     const OptionValues& m_options;
