@@ -6,122 +6,40 @@
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <memory>
+#include <optional>
 #include <vector>
 
 using namespace tavrin;
 
 namespace {
 
-// b boolean, i integer, t text, l list, d date.
 struct OptionRow {
-    const char* key;
-    char type;
-    const char* defaultText;
+    QByteArray key;
+    char type;                       // b boolean, i integer, t text, l list, d date
+    std::optional<QString> defaultText;  // none where the default is not fixed
 };
 
-// The settings record, key by key in its order, with the empty profile's values in their
-// "%d"/text form. The custom date is "now" and is checked on its own.
+// The settings record as checked in beside this test: a change to the record's keys, their
+// order, types or the empty profile's values shows up as a difference from this file.
 const std::vector<OptionRow>& recordRows()
 {
-    static const std::vector<OptionRow> rows = {
-        {"selectedTab", 'i', "0"}, {"isFiles", 'b', "1"}, {"isFolders", 'b', "0"},
-        {"isIncludeSubFolders", 'b', "1"},
-        // AlphaNumeric
-        {"isAlphaNumericIncrement", 'b', "1"}, {"isAlphaNumericDecrement", 'b', "0"},
-        {"isAlphaNumericNumeric", 'b', "1"}, {"isAlphaNumericAlphabetic", 'b', "0"},
-        {"isAlphaNumericPrefix", 'b', "0"}, {"isAlphaNumericSufix", 'b', "0"},
-        {"isAlphaNumericSeperator", 'b', "0"}, {"alphaNumericSeperator", 't', ""},
-        {"alphaNumericPaddingMask", 't', ""}, {"alphaNumericNumericStartWith", 't', "0"},
-        {"alphaNumericAlphabeticStartWith", 't', "a"}, {"alphaNumericIncrementBy", 't', "1"},
-        {"alphaNumericDecrementBy", 't', "1"}, {"isAlphaNumericResetSequenceOnEachFolder", 'b', "0"},
-        // InsertDelete
-        {"isInsertDeleteInsert", 'b', "1"}, {"insertDeleteInsert", 't', ""},
-        {"insertDeleteInsertOptionIndex", 'i', "0"}, {"isInsertDeleteInsertAtBeginning", 'b', "1"},
-        {"isInsertDeleteInsertAtEnd", 'b', "0"}, {"isInsertDeleteInsertAtPosition", 'b', "0"},
-        {"insertDeleteAtCharacterPositions", 't', "1"}, {"insertDeleteInsertAtPostionDirection", 'i', "0"},
-        {"isInsertDeleteInsertAtBeforeText", 'b', "0"}, {"insertDeleteInsertAtBeforeText", 't', ""},
-        {"insertDeleteInsertAtBeforeOccurrence", 't', "1"}, {"isInsertDeleteInsertAtAfterText", 'b', "0"},
-        {"insertDeleteInsertAtAfterText", 't', ""}, {"insertDeleteInsertAtAfterOccurrence", 't', "1"},
-        {"isInsertDeleteDelete", 'b', "0"}, {"isInsertDeleteDeleteFromBackWard", 'b', "0"},
-        {"insertDeleteFromCharacterPosition", 't', "1"}, {"insertDeleteNumberOfCharacters", 't', "1"},
-        // ReplaceRemove
-        {"isReplaceRemoveReplace", 'b', "1"}, {"isReplaceRemoveRemove", 'b', "0"},
-        {"isReplaceRemoveRemoveCharacters", 'b', "0"}, {"replaceRemoveThis", 't', ""},
-        {"replaceRemoveWith", 't', ""}, {"isReplaceRemoveCaseSensitive", 'b', "0"},
-        {"isReplaceRemoveAllOccurrence", 'b', "0"}, {"replaceRemovePositionDirection", 'i', "0"},
-        {"replaceRemoveStartFromCharacter", 't', "1"}, {"replaceRemoveStartOnOccurrence", 't', "1"},
-        {"replaceRemoveOccuranceCount", 't', "1"},
-        // PrefixSuffix
-        {"isPrefixSuffixString", 'b', "1"}, {"isPrefixSuffixDate", 'b', "0"},
-        {"isPrefixSuffixDatePrefix", 'b', "0"}, {"isPrefixSuffixDateSuffix", 'b', "0"},
-        {"prefixSuffixFileDateAttribute", 'i', "1"}, {"prefixSuffixPrefix", 't', ""},
-        {"prefixSuffixSuffix", 't', ""}, {"prefixSuffixDatePart1", 't', "dd"},
-        {"prefixSuffixDateSeperator1", 't', ""}, {"prefixSuffixDatePart2", 't', "MM"},
-        {"prefixSuffixDateSeperator2", 't', ""}, {"prefixSuffixDatePart3", 't', "yyyy"},
-        {"prefixSuffixTimePart1", 't', "HH"}, {"prefixSuffixTimeSeperator1", 't', ""},
-        {"prefixSuffixTimePart2", 't', "mm"}, {"prefixSuffixTimeSeperator2", 't', ""},
-        {"prefixSuffixTimePart3", 't', "ss"}, {"prefixSuffixDatePrefix", 't', ""},
-        {"prefixSuffixDateSuffix", 't', ""},
-        // Date & Time
-        {"dateTimeDateOptionIndex", 'i', "0"}, {"hasDateTimeCustomDate", 'b', "0"},
-        {"dateTimeCustomDate", 'd', nullptr}, {"dateTimeOptionsIndex", 'i', "0"},
-        {"isDateTimeAtBeginning", 'b', "1"}, {"isDateTimeAtEnd", 'b', "0"},
-        {"isDateTimeAtPosition", 'b', "0"}, {"isDateTimeAtBeforeText", 'b', "0"},
-        {"isDateTimeAtAfterText", 'b', "0"}, {"dateTimeAtPositionNo", 't', "1"},
-        {"dateTimeAtPositionDirection", 'i', "0"}, {"dateTimeAtBeforeText", 't', ""},
-        {"dateTimeAtBeforeTextOccurrence", 't', "1"}, {"dateTimeAtAfterText", 't', ""},
-        {"dateTimeAtAfterTextOccurrence", 't', "1"}, {"hasDateFormat", 'b', "1"},
-        {"hasTimeFormat", 'b', "1"}, {"dateTimeFormatDatePart1", 't', "dd"},
-        {"dateTimeFormatDateSeperator1", 't', ""}, {"dateTimeFormatDatePart2", 't', "MM"},
-        {"dateTimeFormatDateSeperator2", 't', ""}, {"dateTimeFormatDatePart3", 't', "yyyy"},
-        {"dateTimeFormatTimePart1", 't', "HH"}, {"dateTimeFormatTimeSeperator1", 't', ""},
-        {"dateTimeFormatTimePart2", 't', "mm"}, {"dateTimeFormatTimeSeperator2", 't', ""},
-        {"dateTimeFormatTimePart3", 't', "ss"}, {"isDateTimeColonReplace", 'b', "0"},
-        {"dateTimeColonReplace", 't', ""}, {"dateTimeSeparator", 't', ""}, {"dateTimePrefix", 't', ""},
-        {"dateTimeSuffix", 't', ""},
-        // General
-        {"generalOptionIndex", 'i', "0"}, {"generalFileNameCase", 'i', "1"},
-        {"generalExtensionCase", 'i', "1"}, {"isGeneralConvertFilenameCase", 'b', "1"},
-        {"isGeneralConvertExtension", 'b', "0"}, {"isGeneralRemoveExtension", 'b', "0"},
-        {"isGeneralChangeExtension", 'b', "0"}, {"isGeneralReverseFileName", 'b', "0"},
-        {"isGeneralRemoveSpaces", 'b', "0"}, {"isGeneralSwapFromSeperator", 'b', "0"},
-        {"isGeneralSwapFromPostion", 'b', "0"}, {"isGeneralRemoveAfterString", 'b', "0"},
-        {"isGeneralRemoveFromString", 'b', "0"}, {"isGeneralConvertWindowsCompatible", 'b', "0"},
-        {"isGeneralFilenameMask", 'b', "0"}, {"generalChangeExtension", 't', ""},
-        {"generalSwapSeperator", 't', ""}, {"generalSwapPosition", 't', "1"},
-        {"generalRemoveAfterString", 't', ""}, {"generalRemoveFromString", 't', ""},
-        {"generalRemoveAfterStringOccurrence", 't', "1"}, {"generalRemoveFromStringOccurrence", 't', "1"},
-        {"generalConvertWindowsCompatibleString", 't', ""}, {"generalFilenameMask", 't', ""},
-        // Photo
-        {"isPhotoRenamingSeperator", 'b', "0"}, {"isPhotoRenamingColonReplace", 'b', "0"},
-        {"photoRenamingSeperator", 't', ""}, {"photoRenamingColonReplace", 't', ""},
-        {"photoRenamingMask", 't', ""}, {"photoDatePart1", 't', "dd"}, {"photoDateSeperator1", 't', ""},
-        {"photoDatePart2", 't', "MM"}, {"photoDateSeperator2", 't', ""}, {"photoDatePart3", 't', "yyyy"},
-        {"photoTimePart1", 't', "HH"}, {"photoTimeSeperator1", 't', ""}, {"photoTimePart2", 't', "mm"},
-        {"photoTimeSeperator2", 't', ""}, {"photoTimePart3", 't', "ss"}, {"photoPaddingMask", 't', ""},
-        {"photoMetaDataList", 'l', ""}, {"photoExtensions", 'l', ".JPG,.JPEG,.EXIF,.TIF,.TIFF"},
-        {"isPhotoResetSequenceOnEachFolder", 'b', "0"},
-        // ID3
-        {"isID3RenamingSeperator", 'b', "0"}, {"isID3RenamingColonReplace", 'b', "0"},
-        {"id3RenamingSeperator", 't', ""}, {"id3RenamingColonReplace", 't', ""},
-        {"id3RenamingMask", 't', ""}, {"id3RenamingTagsList", 'l', ""},
-        {"id3Extensions", 'l', ".MP3,.M4A,.AAC,.M4B"},
-        // PathComponents
-        {"isPathComponentsAtBeginning", 'b', "1"}, {"isPathComponentsAtEnd", 'b', "0"},
-        {"isPathComponentsAtPosition", 'b', "0"}, {"isPathComponentsAtBeforeText", 'b', "0"},
-        {"isPathComponentsAtAfterText", 'b', "0"}, {"pathComponentsLevelNo", 'i', "1"},
-        {"pathComponentsOptionsIndex", 'i', "0"}, {"pathComponentsAtPositionNo", 't', "1"},
-        {"pathComponentsAtPositionDirection", 'i', "0"}, {"pathComponentsAtBeforeText", 't', ""},
-        {"pathComponentsAtBeforeOccurrence", 't', "1"}, {"pathComponentsAtAfterText", 't', ""},
-        {"pathComponentsAtAfterOccurrence", 't', "1"}, {"pathComponentsSeparator", 't', ""},
-        {"pathComponentsPrefix", 't', ""}, {"pathComponentsSuffix", 't', ""},
-        // Radio-group indexes, then the rename-from-file input
-        {"fileFolderIndex", 'i', "0"}, {"alphaNumericIncrementDecrementIndex", 'i', "0"},
-        {"alphaNumericNumericAlphabeticIndex", 'i', "0"}, {"insertDeleteIndex", 'i', "0"},
-        {"removeReplaceIndex", 'i', "0"}, {"prefixSuffixIndex", 'i', "0"},
-        {"generalOptionsIndex", 'i', "0"}, {"renameFile", 't', ""},
-    };
+    static const std::vector<OptionRow> rows = [] {
+        std::vector<OptionRow> read;
+        QFile file(QStringLiteral(TAVRIN_SETTINGS_RECORD));
+        if (!file.open(QIODevice::ReadOnly))
+            return read;
+        for (const QByteArray& line : file.readAll().split('\n')) {
+            if (line.isEmpty() || line.startsWith('#'))
+                continue;
+            const QList<QByteArray> fields = line.split('\t');
+            const QString value = QString::fromUtf8(fields.value(2));
+            read.push_back({fields.value(0), fields.value(1).isEmpty() ? '?' : fields.value(1).at(0),
+                            value == QLatin1String("-") ? std::nullopt : std::optional<QString>(value)});
+        }
+        return read;
+    }();
     return rows;
 }
 
@@ -183,7 +101,7 @@ TEST(SettingsRecord, HasEveryKeyOfTheRecordInItsOrderAndNothingElse)
 {
     QStringList expected;
     for (const OptionRow& row : recordRows())
-        expected.append(text(row.key));
+        expected.append(QString::fromUtf8(row.key));
     EXPECT_EQ(Settings::optionKeys(), expected);
     EXPECT_FALSE(Settings::hasOption(QStringLiteral("objectName")));
 }
@@ -191,12 +109,12 @@ TEST(SettingsRecord, HasEveryKeyOfTheRecordInItsOrderAndNothingElse)
 TEST(SettingsRecord, EachOptionHasItsTypeAndAChangeSignal)
 {
     for (const OptionRow& row : recordRows()) {
-        const QMetaProperty property = propertyOf(text(row.key));
-        ASSERT_TRUE(property.isValid()) << row.key;
-        EXPECT_EQ(property.metaType(), metaTypeFor(row.type)) << row.key;
-        EXPECT_TRUE(property.hasNotifySignal()) << row.key;
-        EXPECT_EQ(property.notifySignal().name(), QByteArray(row.key) + "Changed") << row.key;
-        EXPECT_TRUE(property.isWritable()) << row.key;
+        const QMetaProperty property = propertyOf(QString::fromUtf8(row.key));
+        ASSERT_TRUE(property.isValid()) << row.key.constData();
+        EXPECT_EQ(property.metaType(), metaTypeFor(row.type)) << row.key.constData();
+        EXPECT_TRUE(property.hasNotifySignal()) << row.key.constData();
+        EXPECT_EQ(property.notifySignal().name(), row.key + "Changed") << row.key.constData();
+        EXPECT_TRUE(property.isWritable()) << row.key.constData();
     }
 }
 
@@ -205,7 +123,7 @@ TEST(SettingsDefaults, NewSettingsHoldTheEmptyProfile)
     const Settings settings;
     for (const OptionRow& row : recordRows()) {
         if (row.defaultText) {
-            EXPECT_EQ(settings.optionToString(text(row.key)), text(row.defaultText)) << row.key;
+            EXPECT_EQ(settings.optionToString(QString::fromUtf8(row.key)), *row.defaultText) << row.key.constData();
         }
     }
 }
