@@ -135,6 +135,9 @@ QString RenameController::logLocationText() const
 {
     if (m_applyOutcome.aborted)
         return localized("RENAMINGABORTEDNOLOG");
+    // The "#" log it left behind still holds the batch; the next start finishes it.
+    if (!m_applyOutcome.logError.isEmpty())
+        return m_applyOutcome.logError;
     if (m_applyOutcome.logPath.isEmpty())
         return localized("LOGNOTWRITTEN");
     return localized("LOGSAVEDAT").arg(getDisplayFilePath(m_applyOutcome.logPath));
