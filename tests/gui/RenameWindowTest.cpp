@@ -21,6 +21,7 @@
 #include <QTabBar>
 #include <QTableView>
 #include <QTimer>
+#include <algorithm>
 
 using namespace tavrin;
 using namespace tavrin::test;
@@ -306,6 +307,12 @@ TEST_F(RenameWindowTest, TheWindowKeepsRunningWhileALongPreviewWorks)
     for (int i = 0; i < 4000; ++i)
         names.append(u"file %1.txt"_s.arg(i));
     listFiles(names);
+    // A finished preview by other options: its proposals must not survive the cancelled one.
+    settings().setSelectedTab(tabs::General);
+    settings().chooseGeneralOption(0);
+    settings().setGeneralFileNameCase(3);
+    ASSERT_TRUE(previewAndWait());
+    ASSERT_TRUE(applyAction()->isEnabled());
     chooseUpperCase();
     int ticksWhileExecuting = 0;
     QTimer ticker;
@@ -332,6 +339,14 @@ TEST_F(RenameWindowTest, TheWindowKeepsRunningWhileALongPreviewWorks)
     }));
     EXPECT_GT(ticksWhileExecuting, 0) << "the event loop ran during the preview";
     EXPECT_EQ(cancelled.count(), 1);
+    // Regression: Rename stayed enabled and applied the earlier preview's proposals to the
+    // rows the cancelled one had not reached.
+    EXPECT_FALSE(applyAction()->isEnabled()) << "Rename waits for a preview that finishes";
+    const std::vector<FileSystemItem>& items = list().shownItems();
+    const auto stale = std::count_if(items.begin(), items.end(), [](const FileSystemItem& item) {
+        return item.newFilename().startsWith(u"File "_s);
+    });
+    EXPECT_EQ(stale, 0) << "no row keeps the proper-case proposal of the earlier preview";
     EXPECT_TRUE(previewAction()->isEnabled());
     EXPECT_FALSE(child<QAction>(u"cancelAction"_s)->isEnabled());
 }

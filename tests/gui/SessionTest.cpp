@@ -201,4 +201,26 @@ TEST_F(SessionTest, NoLivePreviewWhenOffOrEmptyAndOneAfterAWholeProfile)
     EXPECT_EQ(newNames().first(), u"A.txt"_s);
 }
 
+// Regression: F5 pressed within the live-preview delay showed the full preview, then the
+// still-armed live preview replaced it with a partial one and disabled Rename.
+TEST_F(SessionTest, AFullPreviewDisarmsTheWaitingLivePreview)
+{
+    listFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s });
+    rename().setLivePreviewCoverage(false, u"1"_s);
+    ASSERT_TRUE(livePreviewAndWait([&] {
+        rename().setLivePreview(true);
+        return true;
+    }));
+    QSignalSpy livePreviews(&rename(), &RenameController::livePreviewFinished);
+    chooseUpperCase();
+    ASSERT_TRUE(rename().livePreview().isTimerActive());
+    QSignalSpy previews(&rename(), &RenameController::previewFinished);
+    ASSERT_FALSE(rename().preview().has_value());
+    ASSERT_TRUE(previews.wait(kWaitMilliseconds));
+    QTest::qWait(2 * LivePreview::DelayMilliseconds);
+    EXPECT_EQ(livePreviews.count(), 0);
+    EXPECT_EQ(newNames(), (QStringList { u"A.txt"_s, u"B.txt"_s, u"C.txt"_s }));
+    EXPECT_TRUE(rename().isHasFilesForRenaming());
+}
+
 } // namespace

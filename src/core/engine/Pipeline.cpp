@@ -126,6 +126,12 @@ PreviewOutcome Pipeline::preview(Proposer& proposer, const std::atomic_bool& can
             outcome.lastError = error;
         judgeProposal(item, outcome);
     }
+    // A record this run did not reach must not keep what an earlier run proposed: apply
+    // would rename it by options the user has since changed.
+    if (proposer.computesNames()) {
+        for (int rest = row; rest < total; ++rest)
+            setNewFilename(m_list.at(rest), QString());
+    }
     progress.finish(QString(), row, total);
     return outcome;
 }

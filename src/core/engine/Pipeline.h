@@ -67,7 +67,8 @@ public:
     Pipeline(FileList& list, const OptionValues& options);
 
     // Proposes a new name or a status for every record (the first `limit` records when
-    // limit >= 0; the others are left with an empty newFilename).
+    // limit >= 0). The records a limited or cancelled run did not reach are left with an
+    // empty newFilename, so no earlier proposal survives.
     PreviewOutcome preview(const std::atomic_bool& cancel, ProgressObserver* observer, int limit = -1);
     PreviewOutcome preview(Proposer& proposer, const std::atomic_bool& cancel, ProgressObserver* observer,
                            int limit = -1);

@@ -35,6 +35,8 @@ public:
     void setCoverage(bool allFiles, const QString& filesLimit);
 
     bool isTimerActive() const { return m_quickPreviewTimer.isActive(); }
+    // Forgets a live preview that is waiting to start: a full preview makes it out of date.
+    void disarm() { m_quickPreviewTimer.stop(); }
 
 signals:
     void stateChanged();

@@ -49,6 +49,8 @@ std::optional<ValidationFailure> RenameController::preview()
         return std::nullopt;
     if (std::optional<ValidationFailure> failure = normaliseOptions())
         return failure;
+    // A live preview still waiting would replace this full preview with a partial one.
+    m_livePreview->disarm();
     const Options options = std::make_shared<const PropertyOptionValues>(m_session.settings());
     m_previewOutcome = PreviewOutcome();
     m_list.run(
@@ -98,7 +100,8 @@ bool RenameController::apply(const ContinueWithoutLogQuestion& continueWithoutLo
 void RenameController::finishPreview()
 {
     m_list.status().finishTiming("PREVIEWTIME");
-    setHasFilesForRenaming(m_previewOutcome.hasFilesForRenaming);
+    // A cancelled preview proposed only part of the list: Rename waits for one that finishes.
+    setHasFilesForRenaming(m_previewOutcome.hasFilesForRenaming && !m_previewOutcome.cancelled);
     if (!m_previewOutcome.actionSucceeded)
         m_list.status().showMessage(m_previewOutcome.lastError);
     emit previewFinished();
@@ -108,7 +111,7 @@ void RenameController::finishPreview()
 // of the list would surprise. A full preview is needed first.
 void RenameController::finishQuickPreview(int limit)
 {
-    const bool coveredAll = limit < 0 || limit >= m_list.shownCount();
+    const bool coveredAll = (limit < 0 || limit >= m_list.shownCount()) && !m_previewOutcome.cancelled;
     setHasFilesForRenaming(coveredAll && m_previewOutcome.hasFilesForRenaming);
     m_list.status().showMessage(m_previewOutcome.actionSucceeded ? QString() : m_previewOutcome.lastError);
     emit livePreviewFinished();

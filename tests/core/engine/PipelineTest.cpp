@@ -98,9 +98,13 @@ TEST_F(PipelineTest, PreviewSetsTheStatusTexts)
     EXPECT_EQ(newNameOf(u"mixed.txt"_s), u"MIXED.txt"_s);
 }
 
+// Regression: the rows a limited or cancelled preview did not reach kept the proposals of the
+// preview before it, and apply renamed them by options the user had since changed.
 TEST_F(PipelineTest, ALimitedPreviewLeavesTheRestEmpty)
 {
     list({u"a.txt"_s, u"b.txt"_s, u"c.txt"_s});
+    preview();
+    ASSERT_EQ(files.at(2).newFilename(), u"C.txt"_s);
     preview(2);
     EXPECT_EQ(files.at(1).newFilename(), u"B.txt"_s);
     EXPECT_EQ(files.at(2).newFilename(), QString());
@@ -248,10 +252,12 @@ TEST_F(PipelineTest, ALogFolderThatCannotBeWrittenAsksWhetherToGoOn)
 TEST_F(PipelineTest, ACancelledPreviewStopsBeforeTheNextRecord)
 {
     list({u"a.txt"_s, u"b.txt"_s});
+    preview();
     cancel.store(true);
     const PropertyOptionValues values(settings);
     EXPECT_TRUE(Pipeline(files, values).preview(cancel, nullptr).cancelled);
     EXPECT_EQ(files.at(0).newFilename(), QString());
+    EXPECT_EQ(files.at(1).newFilename(), QString()) << "no proposal of the earlier preview survives";
 }
 
 TEST_F(PipelineTest, ANameTooLongForTheFileSystemIsNoChange)
