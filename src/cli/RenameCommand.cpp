@@ -80,7 +80,7 @@ QString summaryLine(const FileList& list)
     int proposals = 0;
     QMap<QString, int> statuses;
     for (const FileSystemItem& item : list.items()) {
-        if (status::isStatus(item.newFilename()))
+        if (item.hasStatus())
             ++statuses[item.newFilename()];
         else if (!item.newFilename().isEmpty())
             ++proposals;
@@ -99,7 +99,7 @@ void printRows(const FileList& list, const QStringList& namesBefore, QTextStream
     for (int row = 0; row < list.size(); ++row) {
         const FileSystemItem& item = list.at(row);
         out << namesBefore.at(row) << '\t';
-        if (item.newFilename() == QLatin1String(status::RenamingOk))
+        if (item.status() == RenameStatus::RenamingOk)
             out << item.displayField(name) << '\t';
         out << item.displayField(newName) << '\n';
     }

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QPixmap>
+#include <utility>
 #include <gtest/gtest.h>
 
 using namespace tavrin;
@@ -29,34 +30,30 @@ QImage imageOf(const QIcon& icon)
     return image;
 }
 
-FileSystemItem recordWithStatus(const QString& path, const char* newFilename)
+
+FileSystemItem recordWith(const QString& path, RenameStatus status, const char* proposal = "")
 {
     FileSystemItem item = *FileSystemItem::initWithPath(path);
-    item.setObject(QString::fromUtf8(newFilename), QStringLiteral("newFilename"));
+    item.setObject(QString::fromUtf8(proposal), QStringLiteral("newFilename"));
+    if (status != RenameStatus::None)
+        item.setStatus(status);
     return item;
 }
 
-struct BadgeRow {
-    const char* newFilename;
-    ItemIconCache::Badge badge;
-};
-
-TEST(ItemIconCache, EveryStatusTextChoosesItsBadge)
+TEST(ItemIconCache, EveryStatusChoosesItsBadge)
 {
     using Badge = ItemIconCache::Badge;
-    const BadgeRow rows[] = {
-        { "", Badge::None },
-        { "proposed name.txt", Badge::None },
-        { status::NoChanges, Badge::Error },
-        { status::FileAlreadyExists, Badge::Error },
-        { status::FolderAlreadyExists, Badge::Error },
-        { status::FileNotFound, Badge::Error },
-        { status::FolderNotFound, Badge::Error },
-        { status::RenamingOk, Badge::Success },
-        { "renaming (ok)", Badge::None },
+    const std::pair<RenameStatus, Badge> rows[] = {
+        { RenameStatus::None, Badge::None },
+        { RenameStatus::NoChanges, Badge::Error },
+        { RenameStatus::FileAlreadyExists, Badge::Error },
+        { RenameStatus::FolderAlreadyExists, Badge::Error },
+        { RenameStatus::FileNotFound, Badge::Error },
+        { RenameStatus::FolderNotFound, Badge::Error },
+        { RenameStatus::RenamingOk, Badge::Success },
     };
-    for (const BadgeRow& row : rows)
-        EXPECT_EQ(ItemIconCache::badgeFor(QString::fromUtf8(row.newFilename)), row.badge) << row.newFilename;
+    for (const auto& [status, badge] : rows)
+        EXPECT_EQ(ItemIconCache::badgeFor(status), badge) << statusText(status).toStdString();
 }
 
 TEST(ItemIconCache, AnErrorStatusOverlaysTheErrorBadge)
@@ -65,13 +62,13 @@ TEST(ItemIconCache, AnErrorStatusOverlaysTheErrorBadge)
     const QString path = tree.file(QStringLiteral("a.txt"));
     ItemIconCache icons;
 
-    const QImage plain = imageOf(icons.icon(recordWithStatus(path, "")));
-    const QImage proposed = imageOf(icons.icon(recordWithStatus(path, "b.txt")));
-    const QImage error = imageOf(icons.icon(recordWithStatus(path, status::FileAlreadyExists)));
-    const QImage noChanges = imageOf(icons.icon(recordWithStatus(path, status::NoChanges)));
-    const QImage success = imageOf(icons.icon(recordWithStatus(path, status::RenamingOk)));
+    const QImage plain = imageOf(icons.icon(recordWith(path, RenameStatus::None)));
+    const QImage proposed = imageOf(icons.icon(recordWith(path, RenameStatus::None, "No Changes")));
+    const QImage error = imageOf(icons.icon(recordWith(path, RenameStatus::FileAlreadyExists)));
+    const QImage noChanges = imageOf(icons.icon(recordWith(path, RenameStatus::NoChanges)));
+    const QImage success = imageOf(icons.icon(recordWith(path, RenameStatus::RenamingOk)));
 
-    EXPECT_EQ(plain, proposed) << "a proposed name is not a status";
+    EXPECT_EQ(plain, proposed) << "a proposed name is not a status, even one that reads like it";
     EXPECT_NE(plain, error);
     EXPECT_EQ(error, noChanges) << "every refusal wears the same badge";
     EXPECT_NE(success, error);
@@ -89,19 +86,19 @@ TEST(ItemIconCache, FoldersAndFilesLookDifferent)
     const QString folder = tree.folder(QStringLiteral("f"));
     ItemIconCache icons;
     EXPECT_NE(
-        imageOf(icons.icon(recordWithStatus(file, ""))), imageOf(icons.icon(recordWithStatus(folder, ""))));
-    EXPECT_NE(imageOf(icons.icon(recordWithStatus(folder, ""))),
-        imageOf(icons.icon(recordWithStatus(folder, status::FolderNotFound))));
+        imageOf(icons.icon(recordWith(file, RenameStatus::None))), imageOf(icons.icon(recordWith(folder, RenameStatus::None))));
+    EXPECT_NE(imageOf(icons.icon(recordWith(folder, RenameStatus::None))),
+        imageOf(icons.icon(recordWith(folder, RenameStatus::FolderNotFound))));
 }
 
 TEST(ItemIconCache, FilesWithTheSameExtensionShareOneIcon)
 {
     TempTree tree;
     ItemIconCache icons;
-    const QIcon first = icons.icon(recordWithStatus(tree.file(QStringLiteral("a.TXT")), status::NoChanges));
-    const QIcon second = icons.icon(recordWithStatus(tree.file(QStringLiteral("b.txt")), status::NoChanges));
+    const QIcon first = icons.icon(recordWith(tree.file(QStringLiteral("a.TXT")), RenameStatus::NoChanges));
+    const QIcon second = icons.icon(recordWith(tree.file(QStringLiteral("b.txt")), RenameStatus::NoChanges));
     EXPECT_EQ(first.cacheKey(), second.cacheKey());
-    const QIcon other = icons.icon(recordWithStatus(tree.file(QStringLiteral("c.txt")), ""));
+    const QIcon other = icons.icon(recordWith(tree.file(QStringLiteral("c.txt")), RenameStatus::None));
     EXPECT_NE(first.cacheKey(), other.cacheKey()) << "the badge is part of what is cached";
 }
 

@@ -21,20 +21,14 @@ namespace tavrin {
 
 namespace {
 
-QString alreadyExistsStatus(const FileSystemItem& item)
+RenameStatus alreadyExistsStatus(const FileSystemItem& item)
 {
-    return QString::fromLatin1(item.itemType() == ItemType::File ? status::FileAlreadyExists
-                                                                   : status::FolderAlreadyExists);
+    return item.itemType() == ItemType::File ? RenameStatus::FileAlreadyExists : RenameStatus::FolderAlreadyExists;
 }
 
-QString notFoundStatus(const FileSystemItem& item)
+RenameStatus notFoundStatus(const FileSystemItem& item)
 {
-    return QString::fromLatin1(item.itemType() == ItemType::File ? status::FileNotFound : status::FolderNotFound);
-}
-
-void setStatus(FileSystemItem& item, const char* text)
-{
-    item.setObject(QString::fromLatin1(text), QString::fromLatin1(itemkeys::NewFilename));
+    return item.itemType() == ItemType::File ? RenameStatus::FileNotFound : RenameStatus::FolderNotFound;
 }
 
 void setNewFilename(FileSystemItem& item, const QString& name)
@@ -117,7 +111,7 @@ PreviewOutcome Pipeline::preview(Proposer& proposer, const std::atomic_bool& can
         progress.report(item.fullPath(), row, total);
 
         if (!pathExists(item.fullPath())) {
-            setNewFilename(item, notFoundStatus(item));
+            item.setStatus(notFoundStatus(item));
             continue;
         }
         QString error;
@@ -139,6 +133,9 @@ PreviewOutcome Pipeline::preview(Proposer& proposer, const std::atomic_bool& can
 // Turns the action's proposal into what the record shows: the new name, or a status.
 void Pipeline::judgeProposal(FileSystemItem& item, PreviewOutcome& outcome) const
 {
+    // A status the record already holds (an imported list's refusal) stands.
+    if (item.hasStatus())
+        return;
     const QString old = item.filenameWithExtension();
     QString proposed = item.newFilename();
     if (proposed.isEmpty())
@@ -146,12 +143,12 @@ void Pipeline::judgeProposal(FileSystemItem& item, PreviewOutcome& outcome) cons
     // A "/" from metadata or a date format is kept as ":", the form the file system stores.
     proposed = storedName(proposed);
     if (!isValidNewName(proposed)) {
-        setStatus(item, status::NoChanges);
+        item.setStatus(RenameStatus::NoChanges);
         return;
     }
     if (old.compare(proposed, Qt::CaseInsensitive) == 0) {
         if (old == proposed) {
-            setStatus(item, status::NoChanges);
+            item.setStatus(RenameStatus::NoChanges);
         } else {
             setNewFilename(item, proposed);
             outcome.hasFilesForRenaming = true;
@@ -159,7 +156,7 @@ void Pipeline::judgeProposal(FileSystemItem& item, PreviewOutcome& outcome) cons
         return;
     }
     if (pathExists(joinPath(item.fileLocation(), proposed))) {
-        setNewFilename(item, alreadyExistsStatus(item));
+        item.setStatus(alreadyExistsStatus(item));
         return;
     }
     setNewFilename(item, proposed);
@@ -254,17 +251,17 @@ void ApplyRun::renameRecord(int row, ApplyOutcome& outcome)
 {
     FileSystemItem& item = m_list.at(row);
     const QString proposed = item.newFilename();
-    if (proposed.isEmpty() || status::isStatus(proposed))
+    if (proposed.isEmpty() || item.hasStatus())
         return;
     const QString source = item.fullPath();
     const QString target = joinPath(item.fileLocation(), proposed);
     if (!isValidNewName(proposed) || proposed == item.filenameWithExtension()) {
-        setStatus(item, status::NoChanges);
+        item.setStatus(RenameStatus::NoChanges);
         ++outcome.failed;
         return;
     }
     if (!skipsExistenceTest() && targetTaken(item, target)) {
-        setNewFilename(item, alreadyExistsStatus(item));
+        item.setStatus(alreadyExistsStatus(item));
         ++outcome.failed;
         return;
     }
@@ -277,14 +274,14 @@ void ApplyRun::renameRecord(int row, ApplyOutcome& outcome)
     if (!moved.ok() && !movedAnyway(before, source, target)) {
         m_log.dropLastEntry();
         if (moved.outcome == FileOutcome::TargetExists)
-            setNewFilename(item, alreadyExistsStatus(item));
+            item.setStatus(alreadyExistsStatus(item));
         else
-            setStatus(item, status::NoChanges);
+            item.setStatus(RenameStatus::NoChanges);
         ++outcome.failed;
         return;
     }
     m_log.confirmEntry();
-    setStatus(item, status::RenamingOk);
+    item.setStatus(RenameStatus::RenamingOk);
     if (m_index)
         m_index->itemMoved(m_list, source, target);
     item.setFullPath(target);

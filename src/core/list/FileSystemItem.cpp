@@ -111,8 +111,16 @@ QString FileSystemItem::displayField(const QString& key) const
 
 void FileSystemItem::setObject(const QString& value, const QString& key)
 {
-    if (key == QLatin1String(itemkeys::NewFilename))
+    if (key == QLatin1String(itemkeys::NewFilename)) {
         m_newFilename = value;
+        m_status = RenameStatus::None;
+    }
+}
+
+void FileSystemItem::setStatus(RenameStatus status)
+{
+    m_status = status;
+    m_newFilename = statusText(status);
 }
 
 bool FileSystemItem::isPathExists() const
@@ -128,20 +136,31 @@ QString getDisplayFilePath(const QString& path)
     return displayName(path);
 }
 
-namespace status {
-
-bool isErrorStatus(const QString& newFilename)
+QString statusText(RenameStatus status)
 {
-    return newFilename == QLatin1String(NoChanges) || newFilename == QLatin1String(FileAlreadyExists)
-        || newFilename == QLatin1String(FolderAlreadyExists) || newFilename == QLatin1String(FileNotFound)
-        || newFilename == QLatin1String(FolderNotFound);
+    switch (status) {
+    case RenameStatus::None:
+        break;
+    case RenameStatus::NoChanges:
+        return QString::fromLatin1(status::NoChanges);
+    case RenameStatus::FileAlreadyExists:
+        return QString::fromLatin1(status::FileAlreadyExists);
+    case RenameStatus::FolderAlreadyExists:
+        return QString::fromLatin1(status::FolderAlreadyExists);
+    case RenameStatus::FileNotFound:
+        return QString::fromLatin1(status::FileNotFound);
+    case RenameStatus::FolderNotFound:
+        return QString::fromLatin1(status::FolderNotFound);
+    case RenameStatus::RenamingOk:
+        return QString::fromLatin1(status::RenamingOk);
+    }
+    return {};
 }
 
-bool isStatus(const QString& newFilename)
+bool isErrorStatus(RenameStatus status)
 {
-    return isErrorStatus(newFilename) || newFilename == QLatin1String(RenamingOk);
+    return status != RenameStatus::None && status != RenameStatus::RenamingOk;
 }
 
-}  // namespace status
 
 }  // namespace tavrin

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/list/StatusTexts.h"
+
 #include <QString>
 #include <optional>
 
@@ -31,7 +33,12 @@ public:
 
     const QString& fullPath() const { return m_fullPath; }
     void setFullPath(const QString& path) { m_fullPath = path; }
+    // The proposed name, or the text of the status when there is one.
     const QString& newFilename() const { return m_newFilename; }
+    RenameStatus status() const { return m_status; }
+    bool hasStatus() const { return m_status != RenameStatus::None; }
+    // Shows the status in place of a proposal; setting a new name clears it.
+    void setStatus(RenameStatus status);
 
     bool isFile() const { return m_isFile; }
     bool isFolder() const { return m_isFolder; }
@@ -50,7 +57,7 @@ public:
     QString objectForKey(const QString& key) const;
     // Like objectForKey, with ":" shown as "/" in the three name keys.
     QString displayField(const QString& key) const;
-    // Only "newFilename" can be set; every other key is ignored.
+    // Only "newFilename" can be set (a proposal, never a status); every other key is ignored.
     void setObject(const QString& value, const QString& key);
 
     // For a file record: something exists at fullPath. For any other record: a folder does.
@@ -63,6 +70,7 @@ public:
 private:
     QString m_fullPath;
     QString m_newFilename;
+    RenameStatus m_status = RenameStatus::None;
     ItemType m_itemType = ItemType::File;
     bool m_isFile = false;
     bool m_isFolder = false;

@@ -138,7 +138,7 @@ bool FolderScan::addRecord(FileSystemItem record)
     if (m_knownPaths.size() == knownBefore)
         return false;
     if (m_options.renameFromFileTab)
-        record.setObject(QString::fromLatin1(status::NoChanges), QString::fromLatin1(itemkeys::NewFilename));
+        record.setStatus(RenameStatus::NoChanges);
     m_files.push_back(std::move(record));
     ++m_result.added;
     return true;

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-// The status texts a record's newFilename holds instead of a proposed name. They are
-// compared by the table, the pipeline and the log, and are never localized.
+// The status texts a record shows in place of a proposed name. They are what the table, the
+// JSON and the log show, and are never localized.
 namespace tavrin::status {
 
 inline constexpr char NoChanges[] = "No Changes";
@@ -13,10 +13,26 @@ inline constexpr char FileNotFound[] = "File Not Found";
 inline constexpr char FolderNotFound[] = "Folder Not Found";
 inline constexpr char RenamingOk[] = "Renaming (OK)";
 
-// True for the texts that mark a failed or refused proposal (shown with the error badge).
-bool isErrorStatus(const QString& newFilename);
+} // namespace tavrin::status
 
-// True for every status text, including "Renaming (OK)": apply skips these records.
-bool isStatus(const QString& newFilename);
+namespace tavrin {
 
-}  // namespace tavrin::status
+// What became of a record's proposal, kept apart from the proposed name so that a real new
+// name that reads like a status ("File Not Found" from title case) is never taken for one.
+enum class RenameStatus {
+    None,
+    NoChanges,
+    FileAlreadyExists,
+    FolderAlreadyExists,
+    FileNotFound,
+    FolderNotFound,
+    RenamingOk
+};
+
+// The text the list, the JSON and the log show for a status; empty for None.
+QString statusText(RenameStatus status);
+
+// True for the statuses of a failed or refused proposal (shown with the error badge).
+bool isErrorStatus(RenameStatus status);
+
+} // namespace tavrin

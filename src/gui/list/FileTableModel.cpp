@@ -82,7 +82,7 @@ QVariant FileTableModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole:
         return getDisplayFilePath(item.fullPath());
     case Qt::FontRole:
-        if (index.column() == NewNameColumn && status::isStatus(item.newFilename())) {
+        if (index.column() == NewNameColumn && item.hasStatus()) {
             QFont font;
             font.setItalic(true);
             return font;

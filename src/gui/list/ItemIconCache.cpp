@@ -39,11 +39,11 @@ QString cacheKey(const FileSystemItem& item, const QString& extension, ItemIconC
 
 }  // namespace
 
-ItemIconCache::Badge ItemIconCache::badgeFor(const QString& newFilename)
+ItemIconCache::Badge ItemIconCache::badgeFor(RenameStatus status)
 {
-    if (status::isErrorStatus(newFilename))
+    if (isErrorStatus(status))
         return Badge::Error;
-    if (newFilename == QLatin1String(status::RenamingOk))
+    if (status == RenameStatus::RenamingOk)
         return Badge::Success;
     return Badge::None;
 }
@@ -51,7 +51,7 @@ ItemIconCache::Badge ItemIconCache::badgeFor(const QString& newFilename)
 QIcon ItemIconCache::icon(const FileSystemItem& item)
 {
     const QString extension = item.isFolder() ? QString() : item.fileExtension().toLower();
-    const Badge badge = badgeFor(item.newFilename());
+    const Badge badge = badgeFor(item.status());
     const QString key = cacheKey(item, extension, badge);
     if (auto it = m_icons.constFind(key); it != m_icons.constEnd())
         return *it;

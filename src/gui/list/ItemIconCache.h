@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/list/StatusTexts.h"
+
 #include <QHash>
 #include <QIcon>
 #include <QMimeDatabase>
@@ -20,7 +22,7 @@ public:
 
     // The badge a record's newFilename asks for: Error for the refusal statuses,
     // Success for "Renaming (OK)".
-    static Badge badgeFor(const QString& newFilename);
+    static Badge badgeFor(RenameStatus status);
 
 private:
     QIcon baseIcon(const FileSystemItem& item, const QString& extension);

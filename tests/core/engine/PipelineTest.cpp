@@ -110,6 +110,17 @@ TEST_F(PipelineTest, ALimitedPreviewLeavesTheRestEmpty)
     EXPECT_EQ(files.at(2).newFilename(), QString());
 }
 
+// Regression: a real new name equal to a status text was taken for that status and skipped.
+TEST_F(PipelineTest, ANewNameThatReadsLikeAStatusIsRenamed)
+{
+    settings.setGeneralFileNameCase(lettercase::Proper);
+    list({u"file not found"_s, u"no changes"_s});
+    ASSERT_TRUE(preview().hasFilesForRenaming);
+    EXPECT_EQ(apply().renamed, 2);
+    EXPECT_TRUE(tree.exists(u"File Not Found"_s));
+    EXPECT_EQ(QDir(tree.path(QString())).entryList(QDir::Files), (QStringList{u"File Not Found"_s, u"No Changes"_s}));
+}
+
 TEST_F(PipelineTest, ACaseOnlyChangeIsAppliedButNeverOntoAnotherFile)
 {
     list({u"photo.jpg"_s, u"already.txt"_s});

@@ -111,12 +111,27 @@ TEST(FileSystemItem, HiddenAndEmptyPathsMakeNoRecord)
 
 TEST(StatusTexts, ErrorStatusesAndTheSuccessOne)
 {
-    EXPECT_TRUE(status::isErrorStatus(QStringLiteral("No Changes")));
-    EXPECT_TRUE(status::isErrorStatus(QStringLiteral("Folder Not Found")));
-    EXPECT_FALSE(status::isErrorStatus(QStringLiteral("Renaming (OK)")));
-    EXPECT_TRUE(status::isStatus(QStringLiteral("Renaming (OK)")));
-    EXPECT_FALSE(status::isStatus(QStringLiteral("no changes")));
-    EXPECT_FALSE(status::isStatus(QString()));
+    EXPECT_TRUE(isErrorStatus(RenameStatus::NoChanges));
+    EXPECT_TRUE(isErrorStatus(RenameStatus::FolderNotFound));
+    EXPECT_FALSE(isErrorStatus(RenameStatus::RenamingOk));
+    EXPECT_FALSE(isErrorStatus(RenameStatus::None));
+    EXPECT_EQ(statusText(RenameStatus::FileAlreadyExists), QStringLiteral("File Already Exists"));
+    EXPECT_EQ(statusText(RenameStatus::None), QString());
+}
+
+// Regression: a real new name that reads like a status ("file not found" in title case) was
+// taken for one, and the item was skipped.
+TEST(StatusTexts, AProposalThatReadsLikeAStatusIsStillAProposal)
+{
+    test::TempTree tree;
+    FileSystemItem item = *FileSystemItem::initWithPath(tree.file(QStringLiteral("file not found")));
+    item.setObject(QStringLiteral("File Not Found"), QStringLiteral("newFilename"));
+    EXPECT_FALSE(item.hasStatus());
+    item.setStatus(RenameStatus::FileNotFound);
+    EXPECT_EQ(item.newFilename(), QStringLiteral("File Not Found"));
+    EXPECT_TRUE(item.hasStatus());
+    item.setObject(QStringLiteral("b"), QStringLiteral("newFilename"));
+    EXPECT_FALSE(item.hasStatus()) << "a new proposal clears the status";
 }
 
 }  // namespace
