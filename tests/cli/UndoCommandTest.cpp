@@ -156,6 +156,31 @@ TEST_F(UndoCommandTest, JsonCarriesEveryKeyWhenThereIsNothingToUndo)
     EXPECT_TRUE(root.value(QStringLiteral("log")).isNull());
 }
 
+// What each command prints for people: the log table, the help texts, and the JSON object of
+// an undo that was refused.
+TEST_F(UndoCommandTest, TextOutputHelpAndARefusedUndoInJson)
+{
+    tree.file(QStringLiteral("d/alpha.txt"), "a");
+    applyUpperCase();
+    const QString notALog = tree.file(QStringLiteral("notes.xml"), "<plist/>");
+    struct Row {
+        QStringList arguments;
+        int exitCode;
+        const char* expected;
+    };
+    const Row rows[] = {
+        { { QStringLiteral("logs") }, 0, "\t1\nLogs: 1\n" },
+        { { QStringLiteral("logs"), QStringLiteral("--help") }, 0, "tavrin-cli logs" },
+        { { QStringLiteral("undo"), QStringLiteral("--help") }, 0, "tavrin-cli undo" },
+        { { QStringLiteral("undo"), QStringLiteral("--yes"), QStringLiteral("--json"), notALog }, 1, "\"entries\": 0" },
+    };
+    for (const Row& row : rows) {
+        const CliRun result = run(row.arguments);
+        EXPECT_EQ(result.exitCode, row.exitCode) << row.arguments.join(QLatin1Char(' ')).toStdString();
+        EXPECT_TRUE(result.out.contains(QString::fromUtf8(row.expected))) << result.out.toStdString();
+    }
+}
+
 // A batch killed half-way leaves its "#" log; the next run of either program finishes it.
 TEST_F(UndoCommandTest, ALogLeftByAKilledBatchIsListedAndUndoneAtTheNextRun)
 {
