@@ -31,4 +31,21 @@ QJsonObject listJson(const FileList& list, const QStringList& skipped)
     return root;
 }
 
+QJsonObject previewJson(const FileList& list, const QStringList& skipped)
+{
+    QJsonArray items;
+    int conflicts = 0;
+    for (const FileSystemItem& item : list.items()) {
+        QJsonObject object = itemObject(item);
+        object.insert(QStringLiteral("conflict"), item.isConflict());
+        conflicts += item.isConflict() ? 1 : 0;
+        items.append(object);
+    }
+    QJsonObject root;
+    root.insert(QStringLiteral("items"), items);
+    root.insert(QStringLiteral("skipped"), QJsonArray::fromStringList(skipped));
+    root.insert(QStringLiteral("conflicts"), conflicts);
+    return root;
+}
+
 }  // namespace tavrin::cli

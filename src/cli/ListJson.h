@@ -11,4 +11,8 @@ namespace tavrin::cli {
 // so a script sees the names as they are on disk), in list order.
 QJsonObject listJson(const FileList& list, const QStringList& skipped);
 
+// The same after a preview: each item also says whether another item proposes its new name
+// ("conflict"), and "conflicts" counts them.
+QJsonObject previewJson(const FileList& list, const QStringList& skipped);
+
 }  // namespace tavrin::cli

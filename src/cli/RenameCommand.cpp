@@ -155,7 +155,7 @@ void printResult(const LoadedList& loaded, const QStringList& namesBefore, const
                  QTextStream& out, QTextStream& err)
 {
     if (json) {
-        QJsonObject root = listJson(loaded.list, loaded.skipped);
+        QJsonObject root = previewJson(loaded.list, loaded.skipped);
         if (result.applyRequested) {
             const ApplyOutcome applied = result.apply.value_or(ApplyOutcome{});
             root.insert(QStringLiteral("renamed"), applied.renamed);
@@ -236,6 +236,8 @@ int runRename(Mode mode, const QStringList& arguments, QTextStream& out, QTextSt
         const std::atomic_bool neverCancelled{false};
         result.preview = Pipeline(loaded.list, values).preview(neverCancelled, &progress);
     }
+    if (result.preview.conflicts > 0)
+        err << localized("CLICONFLICTS").arg(result.preview.conflicts) << '\n';
     const QStringList namesBefore = shownNames(loaded.list);
     if (mode == Mode::Apply && result.preview.hasFilesForRenaming) {
         if (!confirmApply(extra.yes, err)) {

@@ -190,6 +190,27 @@ TEST_F(RenameCommandTest, ApplyJsonCarriesEveryKeyWhenNothingWasApplied)
     EXPECT_FALSE(parseJson(preview).contains(QStringLiteral("renamed"))) << "preview keeps its keys";
 }
 
+TEST_F(RenameCommandTest, PreviewJsonMarksProposalsThatCollide)
+{
+    tree.file(QStringLiteral("d/a-1.txt"));
+    tree.file(QStringLiteral("d/a-2.txt"));
+    tree.file(QStringLiteral("d/b.txt"));
+    const CliRun preview = run(QStringLiteral("preview"),
+                               {QStringLiteral("--recursive"), QStringLiteral("--json"), QStringLiteral("--tab"),
+                                QStringLiteral("general"), QStringLiteral("--set"),
+                                QStringLiteral("generalOptionIndex=8"), QStringLiteral("--set"),
+                                QStringLiteral("generalRemoveAfterString=-")});
+    const QJsonObject root = parseJson(preview);
+    EXPECT_EQ(root.value(QStringLiteral("conflicts")).toInt(-1), 2) << preview.out.toStdString();
+    QStringList marked;
+    for (const QJsonValue& item : root.value(QStringLiteral("items")).toArray()) {
+        if (item.toObject().value(QStringLiteral("conflict")).toBool())
+            marked << item.toObject().value(QStringLiteral("filenameWithExtension")).toString();
+    }
+    EXPECT_EQ(marked, (QStringList{QStringLiteral("a-1.txt"), QStringLiteral("a-2.txt")}));
+    EXPECT_TRUE(preview.err.contains(QStringLiteral("Conflicts: 2"))) << preview.err.toStdString();
+}
+
 TEST_F(RenameCommandTest, PreviewReplacesByTheOptionsOfTheReplaceRemoveTab)
 {
     tree.file(QStringLiteral("d/a-b-c.txt"));

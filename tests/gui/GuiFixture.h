@@ -48,6 +48,7 @@ public:
 
     int confirmations = 0;
     int logQuestions = 0;
+    int lastConflicts = 0;
     bool logQuestionOnGuiThread = false;
     QList<Alert> alerts;
     QStringList questions; // "title|message"
@@ -55,9 +56,10 @@ public:
     QStringList chooserQuestions; // "title|folder"
     QStringList opened;
 
-    bool confirmRename(QWidget*) override
+    bool confirmRename(QWidget*, int conflicts) override
     {
         ++confirmations;
+        lastConflicts = conflicts;
         return confirmAnswer;
     }
 

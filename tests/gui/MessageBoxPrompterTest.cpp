@@ -66,7 +66,7 @@ struct QuestionRow {
 };
 
 const QuestionRow kQuestions[] = {
-    { "rename", [](MessageBoxPrompter& p) { return p.confirmRename(nullptr); }, "ITEMRENAMINGMESSAGE", "YES",
+    { "rename", [](MessageBoxPrompter& p) { return p.confirmRename(nullptr, 0); }, "ITEMRENAMINGMESSAGE", "YES",
         "NO" },
     { "log", [](MessageBoxPrompter& p) { return p.continueWithoutLog(nullptr); }, "LOGCREATEFAILED",
         "CONTINUE", "ABORT" },

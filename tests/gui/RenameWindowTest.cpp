@@ -299,6 +299,31 @@ TEST_F(RenameWindowTest, AMissingInputWarnsAndTakesTheFocusToItsField)
     }
 }
 
+// Regression: proposals that collide looked like ordinary ones, and Rename then failed on all
+// but one of them without a word beforehand.
+TEST_F(RenameWindowTest, CollidingProposalsAreMarkedCountedAndAskedAbout)
+{
+    listFiles({ u"a-1.txt"_s, u"a-2.txt"_s, u"b.txt"_s });
+    settings().setSelectedTab(tabs::General);
+    settings().chooseGeneralOption(8);
+    settings().setGeneralRemoveAfterString(u"-"_s);
+    ASSERT_TRUE(previewAndWait());
+    EXPECT_EQ(progressLine(), localized("CONFLICTSCOUNT").arg(2));
+    const QAbstractItemModel* model = window.tableModel();
+    const auto tooltip = [&](int row) { return model->index(row, 1).data(Qt::ToolTipRole).toString(); };
+    EXPECT_TRUE(tooltip(0).endsWith(localized("CONFLICTTOOLTIP")));
+    EXPECT_FALSE(tooltip(2).contains(localized("CONFLICTTOOLTIP")));
+    FileSystemItem unmarked = list().shownItems()[0];
+    ASSERT_TRUE(unmarked.isConflict());
+    unmarked.setConflict(false);
+    EXPECT_NE(iconOf(0), ItemIconCache().icon(unmarked).pixmap(QSize(16, 16)).toImage()) << "the warning badge";
+
+    prompter->confirmAnswer = false;
+    QTest::mouseClick(child<QPushButton>(u"applyActionButton"_s), Qt::LeftButton);
+    EXPECT_EQ(prompter->lastConflicts, 2) << "Rename says how many proposals collide";
+    EXPECT_TRUE(tree.exists(u"files/a-1.txt"_s));
+}
+
 // A long preview runs off the GUI thread: the window repaints, the options wait, Escape
 // reaches its cancel, and the undo sheet is refused until it ends.
 TEST_F(RenameWindowTest, TheWindowKeepsRunningWhileALongPreviewWorks)

@@ -1,6 +1,7 @@
 #include "core/engine/Pipeline.h"
 
 #include "core/engine/FolderPathIndex.h"
+#include "core/engine/ProposalConflicts.h"
 #include "core/engine/actions/general.h"
 #include "core/list/FileList.h"
 #include "core/list/StatusTexts.h"
@@ -126,6 +127,7 @@ PreviewOutcome Pipeline::preview(Proposer& proposer, const std::atomic_bool& can
         for (int rest = row; rest < total; ++rest)
             setNewFilename(m_list.at(rest), QString());
     }
+    outcome.conflicts = markProposalConflicts(m_list);
     progress.finish(QString(), row, total);
     return outcome;
 }

@@ -16,6 +16,7 @@ struct PreviewOutcome {
     bool actionSucceeded = true;  // the result of the last action call
     QString lastError;            // the error text of the last failed action call
     bool hasFilesForRenaming = false;
+    int conflicts = 0;  // proposals that another record also proposes
     bool cancelled = false;
 };
 

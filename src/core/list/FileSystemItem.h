@@ -39,6 +39,9 @@ public:
     bool hasStatus() const { return m_status != RenameStatus::None; }
     // Shows the status in place of a proposal; setting a new name clears it.
     void setStatus(RenameStatus status);
+    // Another record of the batch proposes the same new name (set after each preview).
+    bool isConflict() const { return m_isConflict; }
+    void setConflict(bool conflict) { m_isConflict = conflict; }
 
     bool isFile() const { return m_isFile; }
     bool isFolder() const { return m_isFolder; }
@@ -77,6 +80,7 @@ private:
     bool m_isAlias = false;
     bool m_isPackage = false;
     bool m_isHidden = false;
+    bool m_isConflict = false;
 };
 
 // Every ":" of a path shown as "/", for the progress line.

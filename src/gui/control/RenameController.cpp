@@ -104,6 +104,8 @@ void RenameController::finishPreview()
     setHasFilesForRenaming(m_previewOutcome.hasFilesForRenaming && !m_previewOutcome.cancelled);
     if (!m_previewOutcome.actionSucceeded)
         m_list.status().showMessage(m_previewOutcome.lastError);
+    else if (m_previewOutcome.conflicts > 0)
+        m_list.status().showMessage(localized("CONFLICTSCOUNT").arg(formattedCount(m_previewOutcome.conflicts)));
     emit previewFinished();
 }
 

@@ -162,7 +162,7 @@ void RenamePanel::actionApply()
     if (m_rename->list().isExecuting() || !m_rename->isHasFilesForRenaming())
         return;
     m_attached->hide();
-    if (!m_prompter->confirmRename(window()))
+    if (!m_prompter->confirmRename(window(), m_rename->lastPreviewOutcome().conflicts))
         return;
     // Asked later from the worker; the panel may be gone by then.
     const QPointer<RenamePanel> panel(this);

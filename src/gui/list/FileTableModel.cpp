@@ -80,6 +80,8 @@ QVariant FileTableModel::data(const QModelIndex& index, int role) const
     case Qt::DecorationRole:
         return index.column() == IconColumn ? QVariant(m_icons.icon(item)) : QVariant();
     case Qt::ToolTipRole:
+        if (item.isConflict())
+            return getDisplayFilePath(item.fullPath()) + QLatin1Char('\n') + localized("CONFLICTTOOLTIP");
         return getDisplayFilePath(item.fullPath());
     case Qt::FontRole:
         if (index.column() == NewNameColumn && item.hasStatus()) {

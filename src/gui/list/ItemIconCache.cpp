@@ -27,8 +27,16 @@ int badgeSizeFor(int iconSize)
 
 QString badgeResource(ItemIconCache::Badge badge)
 {
-    return badge == ItemIconCache::Badge::Error ? QStringLiteral(":/icons/Error.svg")
-                                                : QStringLiteral(":/icons/Success.svg");
+    switch (badge) {
+    case ItemIconCache::Badge::Error:
+        return QStringLiteral(":/icons/Error.svg");
+    case ItemIconCache::Badge::Warning:
+        return QStringLiteral(":/icons/Warning.svg");
+    case ItemIconCache::Badge::None:
+    case ItemIconCache::Badge::Success:
+        break;
+    }
+    return QStringLiteral(":/icons/Success.svg");
 }
 
 QString cacheKey(const FileSystemItem& item, const QString& extension, ItemIconCache::Badge badge)
@@ -51,7 +59,8 @@ ItemIconCache::Badge ItemIconCache::badgeFor(RenameStatus status)
 QIcon ItemIconCache::icon(const FileSystemItem& item)
 {
     const QString extension = item.isFolder() ? QString() : item.fileExtension().toLower();
-    const Badge badge = badgeFor(item.status());
+    // A proposal another row also proposes: only one of them can be renamed.
+    const Badge badge = item.isConflict() && !item.hasStatus() ? Badge::Warning : badgeFor(item.status());
     const QString key = cacheKey(item, extension, badge);
     if (auto it = m_icons.constFind(key); it != m_icons.constEnd())
         return *it;

@@ -16,7 +16,7 @@ class FileSystemItem;
 // nothing here touches the disk.
 class ItemIconCache {
 public:
-    enum class Badge { None, Error, Success };
+    enum class Badge { None, Error, Success, Warning };
 
     QIcon icon(const FileSystemItem& item);
 

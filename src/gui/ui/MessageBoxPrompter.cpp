@@ -4,6 +4,7 @@
 
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
@@ -73,10 +74,13 @@ QMessageBox::Icon iconOf(Prompter::Severity severity)
 
 } // namespace
 
-bool MessageBoxPrompter::confirmRename(QWidget* parent)
+bool MessageBoxPrompter::confirmRename(QWidget* parent, int conflicts)
 {
-    return ask(parent, { localized("ITEMRENAMINGTITLE"), localized("ITEMRENAMINGMESSAGE") },
-        QMessageBox::Question, { "YES", "NO" });
+    QString message = localized("ITEMRENAMINGMESSAGE");
+    if (conflicts > 0)
+        message += QStringLiteral("\n\n") + localized("CONFLICTSWARNING").arg(QLocale().toString(conflicts));
+    return ask(parent, { localized("ITEMRENAMINGTITLE"), message },
+        conflicts > 0 ? QMessageBox::Warning : QMessageBox::Question, { "YES", "NO" });
 }
 
 bool MessageBoxPrompter::continueWithoutLog(QWidget* parent)

@@ -31,8 +31,8 @@ public:
 
     virtual ~Prompter() = default;
 
-    // "Rename the listed items?": true for YES.
-    virtual bool confirmRename(QWidget* parent) = 0;
+    // "Rename the listed items?": true for YES. Says so when `conflicts` proposals collide.
+    virtual bool confirmRename(QWidget* parent, int conflicts) = 0;
     // The log cannot be written: true for CONTINUE (rename without it), false for ABORT.
     virtual bool continueWithoutLog(QWidget* parent) = 0;
     // An alert with one OK button.

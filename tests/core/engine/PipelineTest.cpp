@@ -308,6 +308,27 @@ struct SequenceRunRow {
     const char* expected[4];
 };
 
+// Regression: a padding mask shorter than the numbers cut 10, 11 and 12 to "1" and the rows
+// looked like ordinary proposals; all but one then failed at apply.
+TEST_F(PipelineTest, ProposalsThatCollideInAFolderAreMarked)
+{
+    list({u"f1/a.jpg"_s, u"f1/b.jpg"_s, u"f1/c.jpg"_s, u"f1/d.txt"_s, u"f2/e.jpg"_s});
+    settings.setSelectedTab(tabs::AlphaNumeric);
+    settings.chooseNumericOrAlphabetic(0);
+    settings.setAlphaNumericNumericStartWith(u"10"_s);
+    settings.setAlphaNumericPaddingMask(u"0"_s);
+    EXPECT_EQ(preview().conflicts, 3);
+    std::vector<bool> marked;
+    for (const FileSystemItem& item : files.items())
+        marked.push_back(item.isConflict());
+    // f1's three JPEGs all become "1.jpg"; "1.txt" differs by its extension, and f2's "1.jpg"
+    // is in another folder.
+    EXPECT_EQ(marked, (std::vector<bool>{true, true, true, false, false}));
+
+    useGeneral(generaloption::ConvertFilenameCase);
+    EXPECT_EQ(preview().conflicts, 0) << "the marks of the last preview only";
+}
+
 TEST_F(PipelineTest, SequencesCountAcrossTheListOrRestartInEachFolder)
 {
     const QStringList paths = {u"f2/x.txt"_s, u"f1/x.txt"_s, u"f2/y.txt"_s, u"f1/y.txt"_s};
