@@ -4,9 +4,13 @@
 set -euo pipefail
 build_dir=${1:-build-coverage}
 cd "$(dirname "$0")/.."
+# The detailed report goes to a scratch file: gcovr replaces its output file, so it must
+# never be pointed at a device such as /dev/null.
+report=$(mktemp)
+trap 'rm -f "$report"' EXIT
 for area in core cli; do
   summary=$(gcovr --root . --filter "src/$area/" --exclude-throw-branches \
-    --exclude-unreachable-branches --print-summary --output /dev/null "$build_dir")
+    --exclude-unreachable-branches --print-summary --output "$report" "$build_dir")
   lines=$(grep '^lines:' <<<"$summary" | sed 's/^lines: *//')
   branches=$(grep '^branches:' <<<"$summary" | sed 's/^branches: *//')
   printf 'src/%-5s lines %s   branches %s\n' "$area" "$lines" "$branches"
