@@ -158,6 +158,11 @@ TEST_F(RenameWindowTest, PreviewRenameAndUndoTheBatch)
     EXPECT_FALSE(QFile::exists(logPath));
     EXPECT_TRUE(prompter->alerts.first().message.contains(u"Items given back their old names: 2"_s));
     EXPECT_TRUE(label(u"timeLabel"_s).startsWith(u"Undo time: "_s));
+    // Regression: the rows kept the undone names with their "Renaming (OK)" badges, and the
+    // next preview said "File Not Found" on every one of them.
+    EXPECT_EQ(listedNames(), QStringList({ u"beach day.jpg"_s, u"notes.txt"_s, u"README.md"_s }));
+    EXPECT_EQ(shownNewNames(), QStringList({ QString(), QString(), QLatin1String(status::NoChanges) }));
+    EXPECT_EQ(progressLine(), localized("ITEMSRESTORED").arg(2));
 }
 
 TEST_F(RenameWindowTest, RenameAnsweredNoRenamesNothing)

@@ -169,6 +169,22 @@ void FileList::sortByFolderThenName()
     sortBy({ QString::fromLatin1(itemkeys::FileLocation), true });
 }
 
+int FileList::followMoves(const QHash<QString, QString>& moves)
+{
+    int moved = 0;
+    for (FileSystemItem& item : m_files) {
+        const auto found = moves.constFind(item.fullPath());
+        if (found == moves.constEnd())
+            continue;
+        item.setFullPath(*found);
+        item.setObject(QString(), QString::fromLatin1(itemkeys::NewFilename));
+        ++moved;
+    }
+    if (moved > 0)
+        resetFilesDic();
+    return moved;
+}
+
 void FileList::resetFilesDic()
 {
     m_knownPaths = QSet<QString>();

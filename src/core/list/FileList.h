@@ -4,6 +4,7 @@
 #include "core/list/FilesComparison.h"
 #include "core/list/Progress.h"
 
+#include <QHash>
 #include <QList>
 #include <QSet>
 #include <QString>
@@ -69,6 +70,9 @@ public:
     void sortBy(const SortKey& key);
     // The pipeline's per-folder order: by name, then (stable) by folder.
     void sortByFolderThenName();
+    // Records found at a key of `moves` take the path it maps to, without a proposal or a
+    // status: the list follows items that were renamed back. Answers how many moved.
+    int followMoves(const QHash<QString, QString>& moves);
 
     // Rebuilds the known-path set from the records.
     void resetFilesDic();

@@ -100,6 +100,7 @@ QList<RenameLogEntry> walkEntries(const QList<RenameLogEntry>& entries, const st
             summary.problems.append(std::move(*problem));
         } else {
             ++summary.restored;
+            summary.restoredEntries.append(entry);
         }
     }
     progress.finish(QString(), int(entries.size() - next), summary.entries);

@@ -57,6 +57,7 @@ struct UndoSummary {
     // The log was kept (rewritten with only the entries not restored), so undo can be tried again.
     bool logKept = false;
     QList<UndoProblem> problems; // the entries walked and not restored, in the order they were walked
+    QList<RenameLogEntry> restoredEntries; // the entries whose item has its old name back
 
     int notRestored() const { return entries - restored; }
 };

@@ -31,6 +31,7 @@
 #include <QItemSelection>
 #include <QItemSelectionModel>
 #include <QLabel>
+#include <QLocale>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QScreen>
@@ -489,6 +490,12 @@ void MainWindow::openUndoSheet()
         m_prompter.get() };
     auto* sheet = new UndoSheetController(context, this);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
+    // The list follows the items given back their old names, and the status line says so.
+    connect(sheet, &UndoSheetController::undoFinished, this, [this, sheet] {
+        const UndoSummary& summary = sheet->lastSummary();
+        m_controller->list().followUndo(summary.restoredEntries);
+        m_controller->status().showMessage(localized("ITEMSRESTORED").arg(QLocale().toString(summary.restored)));
+    });
     sheet->open();
 }
 

@@ -209,6 +209,19 @@ void ListController::removeRows(const QList<int>& rows)
     emit listChanged();
 }
 
+void ListController::followUndo(const QList<RenameLogEntry>& restored)
+{
+    if (m_isExecuting || restored.isEmpty())
+        return;
+    QHash<QString, QString> moves;
+    moves.reserve(restored.size());
+    for (const RenameLogEntry& entry : restored)
+        moves.insert(entry.targetPath(), entry.sourcePath());
+    emit listAboutToChange();
+    m_files.followMoves(moves);
+    emit listChanged();
+}
+
 void ListController::clear()
 {
     if (m_isExecuting)

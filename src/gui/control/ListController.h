@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/list/FileList.h"
+#include "core/log/RenameLogEntry.h"
 #include "gui/control/BackgroundJob.h"
 #include "gui/control/ListMode.h"
 
@@ -80,6 +81,8 @@ public:
     QList<int> moveUp(const QList<int>& rows);
     QList<int> moveDown(const QList<int>& rows);
     void sort(const SortKey& key);
+    // After an undo: the rows of the items given back their old names show those names again.
+    void followUndo(const QList<RenameLogEntry>& restored);
 
 signals:
     void executingChanged(bool executing);

@@ -57,6 +57,9 @@ public:
     void viewLogFileContent();
     void showHelp();
 
+    // What the last undo did.
+    const UndoSummary& lastSummary() const { return m_summary; }
+
 signals:
     // After the check of a log chosen on disk, its alert included.
     void checkFinished();
