@@ -329,6 +329,22 @@ TEST_F(RenameWindowTest, CollidingProposalsAreMarkedCountedAndAskedAbout)
     EXPECT_TRUE(tree.exists(u"files/a-1.txt"_s));
 }
 
+TEST_F(RenameWindowTest, TheNumberingTabSaysWhenTheMaskCutsTheNumbers)
+{
+    listFiles({ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s });
+    settings().setSelectedTab(tabs::AlphaNumeric);
+    settings().chooseNumericOrAlphabetic(0);
+    settings().setAlphaNumericNumericStartWith(u"10"_s);
+    const auto* warning = child<QLabel>(u"paddingMaskWarning"_s);
+    settings().setAlphaNumericPaddingMask(u"00"_s);
+    EXPECT_TRUE(warning->isHidden());
+    settings().setAlphaNumericPaddingMask(u"0"_s);
+    EXPECT_FALSE(warning->isHidden());
+    EXPECT_EQ(warning->text(), localized("SEQUENCEMASKCUTS"));
+    list().clear();
+    EXPECT_TRUE(warning->isHidden()) << "an empty list has no numbers to cut";
+}
+
 // A long preview runs off the GUI thread: the window repaints, the options wait, Escape
 // reaches its cancel, and the undo sheet is refused until it ends.
 TEST_F(RenameWindowTest, TheWindowKeepsRunningWhileALongPreviewWorks)

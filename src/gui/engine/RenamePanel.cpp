@@ -74,7 +74,10 @@ RenamePanel::RenamePanel(
     setObjectName(QStringLiteral("renamePanel"));
     m_tabs->setObjectName(QStringLiteral("actionTabs"));
     Settings& settings = rename->session().settings();
-    m_tabs->addActionTab(new SequenceTab(settings), tabs::AlphaNumeric, localized("SEQUENCETAB"));
+    auto* sequenceTab = new SequenceTab(settings);
+    m_tabs->addActionTab(sequenceTab, tabs::AlphaNumeric, localized("SEQUENCETAB"));
+    QObject::connect(&rename->list(), &ListController::listChanged, sequenceTab,
+        [sequenceTab, rename] { sequenceTab->setListedCount(rename->list().shownCount()); });
     m_tabs->addActionTab(new InsertDeleteTab(settings), tabs::InsertDelete, localized("INSERTDELETETAB"));
     m_tabs->addActionTab(new ReplaceRemoveTab(settings), tabs::ReplaceRemove, localized("REPLACEREMOVETAB"));
     m_tabs->addActionTab(new GeneralTab(settings), tabs::General, localized("GENERALTAB"));

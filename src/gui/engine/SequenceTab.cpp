@@ -1,5 +1,7 @@
 #include "gui/engine/SequenceTab.h"
 
+#include "core/engine/OptionValues.h"
+#include "core/engine/actions/alphanumeric.h"
 #include "core/profiles/Settings.h"
 #include "core/text/LocalizedStrings.h"
 #include "gui/engine/OptionBinder.h"
@@ -153,12 +155,17 @@ QGroupBox* SequenceTab::makePlacementGroup()
     OptionBinder::describeRow({ maskLabel, mask }, localized("SEQUENCEMASKTIP"));
     grid->addWidget(maskLabel, 3, 0);
     grid->addWidget(mask, 3, 1, Qt::AlignLeft);
+    m_maskWarning = new QLabel;
+    m_maskWarning->setObjectName(QStringLiteral("paddingMaskWarning"));
+    m_maskWarning->setWordWrap(true);
+    m_maskWarning->setForegroundRole(QPalette::PlaceholderText);
+    grid->addWidget(m_maskWarning, 4, 0, 1, 2);
 
     const int shortText = separator->fontMetrics().horizontalAdvance(QStringLiteral("ID-0000000"));
     separator->setFixedWidth(shortText);
     mask->setFixedWidth(shortText);
     grid->setColumnStretch(1, 1);
-    grid->setRowStretch(4, 1);
+    grid->setRowStretch(5, 1);
     return group;
 }
 
@@ -166,6 +173,21 @@ void SequenceTab::refreshFromSettings()
 {
     m_binder->refresh();
     enableChosenInputs();
+    showMaskWarning();
+}
+
+void SequenceTab::setListedCount(int count)
+{
+    m_listedCount = count;
+    showMaskWarning();
+}
+
+void SequenceTab::showMaskWarning()
+{
+    const SequenceOptions options = SequenceOptions::from(PropertyOptionValues(m_settings));
+    const bool cut = numbersOverflowMask(options, m_listedCount);
+    m_maskWarning->setText(cut ? localized("SEQUENCEMASKCUTS") : QString());
+    m_maskWarning->setVisible(cut);
 }
 
 void SequenceTab::enableChosenInputs()

@@ -5,6 +5,7 @@
 class QButtonGroup;
 class QGridLayout;
 class QGroupBox;
+class QLabel;
 class QLineEdit;
 
 namespace tavrin {
@@ -22,6 +23,9 @@ public:
     explicit SequenceTab(Settings& settings, QWidget* parent = nullptr);
 
     QWidget* fieldForOption(const QString& optionKey) const override;
+    // How many items the list holds: beside the padding mask, the tab says when their
+    // numbers are longer than the mask and will be cut.
+    void setListedCount(int count);
 
 private:
     // A choice of the kind or the direction, and the field of its value.
@@ -39,9 +43,12 @@ private:
     QGroupBox* makePlacementGroup();
     void refreshFromSettings();
     void enableChosenInputs();
+    void showMaskWarning();
 
     Settings& m_settings;
     OptionBinder* m_binder;
+    QLabel* m_maskWarning = nullptr;
+    int m_listedCount = 0;
 };
 
 } // namespace tavrin

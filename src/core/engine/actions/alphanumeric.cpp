@@ -63,6 +63,17 @@ QString letteredName(const QString& name, const QString& value, const SequenceOp
     return value;
 }
 
+// The largest number a run over `count` items reaches: the last one when counting up, the
+// first one otherwise.
+qint64 largestNumber(const SequenceOptions& options, int count)
+{
+    const qint64 start = std::max(options.numericStart, 0);
+    if (options.direction != SequenceDirection::Increment)
+        return start;
+    const qint64 last = start + qint64(std::max(options.step, 1)) * (count - 1);
+    return std::min<qint64>(last, std::numeric_limits<int>::max());
+}
+
 int nextNumber(int current, const SequenceOptions& options)
 {
     qint64 next = current;
@@ -225,6 +236,13 @@ bool renameByAlphabetic(FileSystemItem& item, const SequenceOptions& options, QS
     }
     counter = value;
     return error.isEmpty();
+}
+
+bool numbersOverflowMask(const SequenceOptions& options, int count)
+{
+    if (options.kind != SequenceKind::Numeric || options.paddingMask.isEmpty() || count <= 0)
+        return false;
+    return QString::number(largestNumber(options, count)).size() > options.paddingMask.size();
 }
 
 }  // namespace tavrin

@@ -47,6 +47,10 @@ struct SequenceOptions {
 // Answers true when `error` (which the caller empties) is still empty afterwards.
 bool renameByNumeric(FileSystemItem& item, const SequenceOptions& options, int& counter, QString& error);
 
+// Whether numbering `count` items would reach a number with more digits than the padding
+// mask has characters: the mask then cuts the numbers, and different items get the same one.
+bool numbersOverflowMask(const SequenceOptions& options, int count);
+
 // Letters the name with the counter's value ("a" when empty; cut to the mask's length when
 // longer, and the sequence goes on from the cut value), fitted to the mask. Before the name
 // the value comes first; after it, the name is put before what there is so far, so at both

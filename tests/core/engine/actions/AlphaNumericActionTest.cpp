@@ -146,6 +146,40 @@ TEST_F(AlphaNumericAction, TheCounterIsWrittenBackAlsoWhenTheCallFails)
     EXPECT_EQ(error, q("earlier"));
 }
 
+// The numbering tab warns beside the mask when it would cut the numbers of the list.
+TEST(NumbersOverflowMask, ComparesTheLargestNumberWithTheMask)
+{
+    struct Row {
+        const char* name;
+        SequenceOptions options;
+        int count;
+        bool cut;
+    };
+    const auto numbers = [](int start, const char* mask, SequenceDirection direction = SequenceDirection::Increment,
+                            int step = 1) {
+        SequenceOptions options;
+        options.numericStart = start;
+        options.paddingMask = q(mask);
+        options.direction = direction;
+        options.step = step;
+        return options;
+    };
+    SequenceOptions letters = numbers(10, "0");
+    letters.kind = SequenceKind::Alphabetic;
+    const Row rows[] = {
+        {"10 to 12 in one digit", numbers(10, "0"), 3, true},
+        {"1 to 9 in one digit", numbers(1, "0"), 9, false},
+        {"1 to 10 in one digit", numbers(1, "0"), 10, true},
+        {"steps of 5 reach 11", numbers(1, "0", SequenceDirection::Increment, 5), 3, true},
+        {"counting down stays within the start", numbers(9, "0", decrement), 100, false},
+        {"no mask cuts nothing", numbers(10, ""), 3, false},
+        {"an empty list", numbers(10, "0"), 0, false},
+        {"letters are not numbers", letters, 3, false},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(numbersOverflowMask(row.options, row.count), row.cut) << row.name;
+}
+
 struct FromRow {
     const char* name;
     int incrementOrDecrement;  // -1: neither switch on
