@@ -1,5 +1,6 @@
 #include "gui/list/PasteboardItemsSheet.h"
 
+#include "core/text/LocalizedStrings.h"
 #include "gui/list/PastedItemsModel.h"
 #include "support/TempTree.h"
 
@@ -25,7 +26,7 @@ protected:
         paths = { tree.file(QStringLiteral("a.txt")), tree.folder(QStringLiteral("Photos")),
             tree.symlink(tree.path(QStringLiteral("Photos")), QStringLiteral("Photos link")),
             tree.folder(QStringLiteral("Music/Live")), tree.file(QStringLiteral("Music/b.mp3")) };
-        sheet = std::make_unique<PasteboardItemsSheet>(paths);
+        sheet = std::make_unique<PasteboardItemsSheet>(paths, ListChoice { ListMode::Files, false });
         sheet->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(sheet.get()));
     }
@@ -87,6 +88,33 @@ TEST_F(PasteboardItemsSheetTest, RemovedRowsLeaveTheRestInOrderUntilNoneIsLeftTo
     EXPECT_EQ(countLine(), QStringLiteral("Items: 0 (files: 0, folders: 0)"));
     EXPECT_FALSE(add->isEnabled());
     EXPECT_FALSE(remove->isEnabled());
+}
+
+QString addCountAfterCounting(const QLabel* label)
+{
+    if (!QTest::qWaitFor([label] { return label->text() != localized("PASTEDCOUNTING"); }, 5000))
+        return QStringLiteral("<still counting>");
+    return label->text();
+}
+
+// Regression: the sheet always started from files without sub-folders, so "Add to List" on a
+// folder listed nothing and unticked the window's own choice.
+TEST(PasteboardItemsSheetStart, StartsFromTheWindowsChoiceAndCountsWhatEachChoiceAdds)
+{
+    TempTree tree;
+    tree.file(QStringLiteral("Photos/2024/a.jpg"));
+    tree.file(QStringLiteral("Photos/b.jpg"));
+    PasteboardItemsSheet sheet({ tree.path(QStringLiteral("Photos")) }, ListChoice { ListMode::Files, true });
+    EXPECT_FALSE(sheet.isFolders());
+    EXPECT_TRUE(sheet.isIncludeSubFolders());
+    const auto* count = sheet.findChild<QLabel*>(QStringLiteral("addCountLabel"));
+    ASSERT_NE(count, nullptr);
+    EXPECT_EQ(addCountAfterCounting(count), localized("PASTEDWOULDADDFILES").arg(2));
+    // Without sub-folders a folder adds none of its files: the sheet says so before adding.
+    sheet.findChild<QCheckBox*>(QStringLiteral("includeSubFoldersBox"))->click();
+    EXPECT_EQ(addCountAfterCounting(count), localized("PASTEDWOULDADDFILES").arg(0));
+    sheet.findChild<QRadioButton*>(QStringLiteral("renameFoldersButton"))->click();
+    EXPECT_EQ(addCountAfterCounting(count), localized("PASTEDWOULDADDFOLDERS").arg(1));
 }
 
 TEST_F(PasteboardItemsSheetTest, AnswersTheChosenOptions)

@@ -60,7 +60,9 @@ void WindowSheets::openPreferences()
 
 void WindowSheets::openPasteboardItemsSheet(const QStringList& paths)
 {
-    auto* sheet = new PasteboardItemsSheet(paths, m_window);
+    const ListController& list = m_controller->list();
+    const ListChoice start { list.isFolders() ? ListMode::Folders : ListMode::Files, list.isIncludeSubFolders() };
+    auto* sheet = new PasteboardItemsSheet(paths, start, m_window);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(sheet, &PasteboardItemsSheet::helpRequested, this,
         [this] { showHelpPage(QStringLiteral("pasteditems.html")); });

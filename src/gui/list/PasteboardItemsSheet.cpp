@@ -1,6 +1,8 @@
 #include "gui/list/PasteboardItemsSheet.h"
 
+#include "core/list/FileList.h"
 #include "core/text/LocalizedStrings.h"
+#include "gui/control/BackgroundJob.h"
 #include "gui/list/PastedItemsModel.h"
 
 #include <QCheckBox>
@@ -18,11 +20,11 @@
 
 namespace tavrin {
 
-PasteboardItemsSheet::PasteboardItemsSheet(const QStringList& paths, QWidget* parent)
+PasteboardItemsSheet::PasteboardItemsSheet(const QStringList& paths, const ListChoice& start, QWidget* parent)
     : Sheet({"pasteboardItemsSheet", "PASTEDITEMSTITLE"}, parent)
     , m_model(new PastedItemsModel(paths, this))
+    , m_counter(std::make_unique<BackgroundJob>())
 {
-
     auto* intro = new QLabel(localized("PASTEDITEMSINTRO"));
     intro->setWordWrap(true);
     m_countLabel = new QLabel;
@@ -43,6 +45,9 @@ PasteboardItemsSheet::PasteboardItemsSheet(const QStringList& paths, QWidget* pa
     layout->addLayout(underTable);
     layout->addSpacing(6);
     layout->addWidget(createOptions());
+    m_addCountLabel = new QLabel;
+    m_addCountLabel->setObjectName(QStringLiteral("addCountLabel"));
+    layout->addWidget(m_addCountLabel);
     layout->addSpacing(6);
     layout->addWidget(createButtons());
 
@@ -50,8 +55,16 @@ PasteboardItemsSheet::PasteboardItemsSheet(const QStringList& paths, QWidget* pa
     connect(m_model, &QAbstractItemModel::rowsRemoved, this, &PasteboardItemsSheet::updateButtons);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &PasteboardItemsSheet::updateButtons);
+    m_foldersButton->setChecked(start.mode == ListMode::Folders);
+    m_filesButton->setChecked(start.mode == ListMode::Files);
+    m_includeSubFoldersBox->setChecked(start.includeSubFolders);
+    connect(m_counter.get(), &BackgroundJob::finished, this, &PasteboardItemsSheet::finishCount);
+    connect(m_filesButton, &QRadioButton::toggled, this, &PasteboardItemsSheet::countItemsToAdd);
+    connect(m_includeSubFoldersBox, &QCheckBox::toggled, this, &PasteboardItemsSheet::countItemsToAdd);
+    connect(m_model, &QAbstractItemModel::rowsRemoved, this, &PasteboardItemsSheet::countItemsToAdd);
     updateCountLine();
     updateButtons();
+    countItemsToAdd();
     resize(640, 440);
     m_table->setFocus();
 }
@@ -73,7 +86,6 @@ QWidget* PasteboardItemsSheet::createOptions()
     m_filesButton = new QRadioButton(localized("PASTEDRENAMEFILES"));
     m_filesButton->setObjectName(QStringLiteral("renameFilesButton"));
     m_filesButton->setToolTip(localized("PASTEDRENAMEFILESTOOLTIP"));
-    m_filesButton->setChecked(true);
     m_foldersButton = new QRadioButton(localized("PASTEDRENAMEFOLDERS"));
     m_foldersButton->setObjectName(QStringLiteral("renameFoldersButton"));
     m_foldersButton->setToolTip(localized("PASTEDRENAMEFOLDERSTOOLTIP"));
@@ -99,6 +111,37 @@ QDialogButtonBox* PasteboardItemsSheet::createButtons()
     m_addButton = addDefaultButton(box, {"addToListButton", "PASTEDADDTOLIST", "PASTEDADDTOLISTTOOLTIP"});
     connect(box, &QDialogButtonBox::accepted, this, &PasteboardItemsSheet::accept);
     return box;
+}
+
+PasteboardItemsSheet::~PasteboardItemsSheet() = default;
+
+// One count at a time: a change of choice during a count stops it and counts again after.
+void PasteboardItemsSheet::countItemsToAdd()
+{
+    if (m_counter->isRunning()) {
+        m_recount = true;
+        m_counter->cancel();
+        return;
+    }
+    m_addCountLabel->setText(localized("PASTEDCOUNTING"));
+    const QStringList items = paths();
+    const ScanOptions options { isFolders(), isIncludeSubFolders(), false };
+    m_counter->start([this, items, options](const std::atomic_bool& cancel, ProgressObserver*) {
+        FileList scratch;
+        scratch.addFiles(items, options, cancel);
+        m_counted = scratch.size();
+    });
+}
+
+void PasteboardItemsSheet::finishCount()
+{
+    if (m_recount) {
+        m_recount = false;
+        countItemsToAdd();
+        return;
+    }
+    m_addCountLabel->setText(localized(isFolders() ? "PASTEDWOULDADDFOLDERS" : "PASTEDWOULDADDFILES")
+                                 .arg(QLocale().toString(m_counted)));
 }
 
 QStringList PasteboardItemsSheet::paths() const

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "gui/control/ListMode.h"
 #include "gui/ui/Sheet.h"
 
 #include <QStringList>
+#include <memory>
 
 class QCheckBox;
 class QDialogButtonBox;
@@ -13,16 +15,19 @@ class QTableView;
 
 namespace tavrin {
 
+class BackgroundJob;
 class PastedItemsModel;
 
 // Opened when items handed to the application from outside include folders: the user sees
 // the items, drops those not wanted, and chooses whether the files or the folders are
-// renamed, and whether sub-folders are gone through.
+// renamed, and whether sub-folders are gone through. The choices start as the window's, and
+// the sheet counts, off the GUI thread, how many items the current choice would add.
 class PasteboardItemsSheet : public Sheet {
     Q_OBJECT
 
 public:
-    explicit PasteboardItemsSheet(const QStringList& paths, QWidget* parent = nullptr);
+    PasteboardItemsSheet(const QStringList& paths, const ListChoice& start, QWidget* parent = nullptr);
+    ~PasteboardItemsSheet() override;
 
     // The items left, in the order they were given.
     QStringList paths() const;
@@ -39,6 +44,8 @@ private:
     void removeSelectedItems();
     void updateCountLine();
     void updateButtons();
+    void countItemsToAdd();
+    void finishCount();
 
     PastedItemsModel* m_model;
     QTableView* m_table = nullptr;
@@ -48,6 +55,11 @@ private:
     QRadioButton* m_foldersButton = nullptr;
     QCheckBox* m_includeSubFoldersBox = nullptr;
     QPushButton* m_addButton = nullptr;
+    QLabel* m_addCountLabel = nullptr;
+    int m_counted = 0;           // written by the count job, read once it has finished
+    bool m_recount = false;      // the choice changed while a count was running
+    // Last, so that it stops before the members its job writes go.
+    std::unique_ptr<BackgroundJob> m_counter;
 };
 
 } // namespace tavrin
