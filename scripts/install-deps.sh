@@ -3,7 +3,7 @@
 set -euo pipefail
 
 packages=(
-  qt6-base-dev qt6-base-dev-tools qt6-svg-dev
+  qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-translations-l10n
   libicu-dev libexiv2-dev libtag1-dev libplist-dev
   cmake ninja-build pkg-config g++
   libgtest-dev libgmock-dev libbenchmark-dev

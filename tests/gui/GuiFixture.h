@@ -56,10 +56,10 @@ public:
     QStringList chooserQuestions; // "title|folder"
     QStringList opened;
 
-    bool confirmRename(QWidget*, int conflicts) override
+    bool confirmRename(QWidget*, const RenameQuestion& question) override
     {
         ++confirmations;
-        lastConflicts = conflicts;
+        lastConflicts = question.conflicts;
         return confirmAnswer;
     }
 

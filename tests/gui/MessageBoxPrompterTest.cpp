@@ -4,11 +4,13 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <functional>
+#include <vector>
 #include <gtest/gtest.h>
 
 using namespace tavrin;
@@ -60,45 +62,53 @@ void answerNextBox(const QString& buttonText, Shown& shown)
 struct QuestionRow {
     const char* name;
     std::function<bool(MessageBoxPrompter&)> ask;
-    const char* messageKey;
-    const char* acceptKey;
-    const char* rejectKey;
+    QString message;
+    QString accept;
+    QString reject;
 };
 
-const QuestionRow kQuestions[] = {
-    { "rename", [](MessageBoxPrompter& p) { return p.confirmRename(nullptr, 0); }, "ITEMRENAMINGMESSAGE", "YES",
-        "NO" },
-    { "log", [](MessageBoxPrompter& p) { return p.continueWithoutLog(nullptr); }, "LOGCREATEFAILED",
-        "CONTINUE", "ABORT" },
-    { "yes/no",
-        [](MessageBoxPrompter& p) {
-            return p.askYesNo(
-                nullptr, { localized("ITEMRENAMINGTITLE"), localized("UNDOFILESFOLDERSDELETECONFIRM") });
-        },
-        "UNDOFILESFOLDERSDELETECONFIRM", "YES", "NO" },
-};
+std::vector<QuestionRow> questionRows()
+{
+    return {
+        // The rename button names the action and the count, in the locale's number format.
+        { "rename", [](MessageBoxPrompter& p) { return p.confirmRename(nullptr, { 1005, 0 }); },
+            localized("ITEMRENAMINGMESSAGE"), localized("RENAMEITEMSBUTTON").arg(QLocale().toString(1005)),
+            localized("CANCEL") },
+        { "rename with conflicts", [](MessageBoxPrompter& p) { return p.confirmRename(nullptr, { 3, 2 }); },
+            localized("ITEMRENAMINGMESSAGE") + QStringLiteral("\n\n") + localized("CONFLICTSWARNING").arg(2),
+            localized("RENAMEITEMSBUTTON").arg(3), localized("CANCEL") },
+        { "log", [](MessageBoxPrompter& p) { return p.continueWithoutLog(nullptr); }, localized("LOGCREATEFAILED"),
+            localized("CONTINUE"), localized("ABORT") },
+        { "yes/no",
+            [](MessageBoxPrompter& p) {
+                return p.askYesNo(
+                    nullptr, { localized("ITEMRENAMINGTITLE"), localized("UNDOFILESFOLDERSDELETECONFIRM") });
+            },
+            localized("UNDOFILESFOLDERSDELETECONFIRM"), localized("YES"), localized("NO") },
+    };
+}
 
 TEST(MessageBoxPrompter, QuestionsUseTheTextsOfTheTablesAndDefaultToGoingOn)
 {
-    for (const QuestionRow& row : kQuestions) {
+    for (const QuestionRow& row : questionRows()) {
         for (const bool accept : { true, false }) {
             MessageBoxPrompter prompter;
             Shown shown;
-            answerNextBox(localized(accept ? row.acceptKey : row.rejectKey), shown);
+            answerNextBox(accept ? row.accept : row.reject, shown);
             EXPECT_EQ(row.ask(prompter), accept) << row.name;
             EXPECT_EQ(shown.title, localized("ITEMRENAMINGTITLE")) << row.name;
-            EXPECT_EQ(shown.text, localized(row.messageKey)) << row.name;
+            EXPECT_EQ(shown.text, row.message) << row.name;
             EXPECT_EQ(shown.buttons.size(), 2) << row.name;
-            EXPECT_TRUE(shown.buttons.contains(localized(row.acceptKey))) << row.name;
-            EXPECT_TRUE(shown.buttons.contains(localized(row.rejectKey))) << row.name;
-            EXPECT_EQ(shown.defaultButton, localized(row.acceptKey)) << row.name;
+            EXPECT_TRUE(shown.buttons.contains(row.accept)) << row.name;
+            EXPECT_TRUE(shown.buttons.contains(row.reject)) << row.name;
+            EXPECT_EQ(shown.defaultButton, row.accept) << row.name;
         }
     }
 }
 
 TEST(MessageBoxPrompter, EscapeNeverGoesOn)
 {
-    for (const QuestionRow& row : kQuestions) {
+    for (const QuestionRow& row : questionRows()) {
         MessageBoxPrompter prompter;
         Shown shown;
         answerNextBox(QString(), shown);

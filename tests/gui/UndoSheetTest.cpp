@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QPointer>
+#include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTableView>
@@ -358,7 +359,9 @@ TEST_F(UndoSheetTest, TheSheetStaysResponsiveThroughALongUndo)
     EXPECT_FALSE(part<QProgressBar>("undoBusyIndicator")->isVisible());
     EXPECT_TRUE(sheet->table()->isEnabled());
     ASSERT_EQ(prompter->alerts.size(), 1);
-    EXPECT_TRUE(prompter->alerts.first().message.contains(u"Items given back their old names: 4000"_s));
+    // Counts in the user's number format ("4,000" in English).
+    EXPECT_TRUE(prompter->alerts.first().message.contains(
+        u"Items given back their old names: "_s + QLocale().toString(4000)));
 }
 
 } // namespace

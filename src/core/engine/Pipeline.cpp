@@ -154,6 +154,7 @@ void Pipeline::judgeProposal(FileSystemItem& item, PreviewOutcome& outcome) cons
         } else {
             setNewFilename(item, proposed);
             outcome.hasFilesForRenaming = true;
+            ++outcome.proposals;
         }
         return;
     }
@@ -163,6 +164,7 @@ void Pipeline::judgeProposal(FileSystemItem& item, PreviewOutcome& outcome) cons
     }
     setNewFilename(item, proposed);
     outcome.hasFilesForRenaming = true;
+    ++outcome.proposals;
 }
 
 bool Pipeline::appliesFolderByFolder() const
@@ -322,6 +324,11 @@ ApplyOutcome Pipeline::applyRenames(const QString& logFolder, const ContinueWith
         qWarning("Error %s", exception.what());
     }
     progress.finish(QString(), row, total);
+    for (int rest = row; rest < total; ++rest) {
+        const FileSystemItem& item = m_list.at(rest);
+        if (!item.hasStatus() && !item.newFilename().isEmpty())
+            ++outcome.untouched;
+    }
     run.finishLog(outcome);
     m_list.resetFilesDic();
     return outcome;

@@ -16,6 +16,7 @@ struct PreviewOutcome {
     bool actionSucceeded = true;  // the result of the last action call
     QString lastError;            // the error text of the last failed action call
     bool hasFilesForRenaming = false;
+    int proposals = 0;  // records that got a new name
     int conflicts = 0;  // proposals that another record also proposes
     bool cancelled = false;
 };
@@ -23,6 +24,7 @@ struct PreviewOutcome {
 struct ApplyOutcome {
     int renamed = 0;
     int failed = 0;         // proposals that could not be applied
+    int untouched = 0;      // proposals a cancel left before they were reached
     QString logPath;        // the saved log, empty when none could be written
     QString logError;       // why the log could not be finished, empty when it was (or none was wanted)
     bool aborted = false;   // the log could not be made and the user chose not to go on

@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 #include <optional>
 
 namespace tavrin {
@@ -201,13 +202,15 @@ UndoSummary undoRenaming(const QString& logPath, const std::atomic_bool& cancel,
 
 QString undoSummaryText(const UndoSummary& summary)
 {
-    QString text = localized("UNDOTOTALNOSITEMSFOUND").arg(summary.entries) + QLatin1Char('\n')
-        + localized("UNDOTOTALNOSITEMSRENAMED").arg(summary.restored) + QLatin1Char('\n')
-        + localized("UNDOTOTALNOSITEMDOESNOTEXISTS").arg(summary.notRestored());
+    // Counts in the user's number format: "100,000", not "100000".
+    const QLocale locale;
+    QString text = localized("UNDOTOTALNOSITEMSFOUND").arg(locale.toString(summary.entries)) + QLatin1Char('\n')
+        + localized("UNDOTOTALNOSITEMSRENAMED").arg(locale.toString(summary.restored)) + QLatin1Char('\n')
+        + localized("UNDOTOTALNOSITEMDOESNOTEXISTS").arg(locale.toString(summary.notRestored()));
     for (const UndoProblem& problem : summary.problems.first(std::min<qsizetype>(listedProblems, summary.problems.size())))
         text += QLatin1Char('\n') + problem.text();
     if (summary.problems.size() > listedProblems)
-        text += QLatin1Char('\n') + localized("UNDOMOREPROBLEMS").arg(summary.problems.size() - listedProblems);
+        text += QLatin1Char('\n') + localized("UNDOMOREPROBLEMS").arg(locale.toString(summary.problems.size() - listedProblems));
     if (summary.logKept)
         text += QLatin1Char('\n') + localized("UNDOLOGKEPT");
     return text;

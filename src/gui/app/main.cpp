@@ -11,7 +11,10 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QMessageBox>
+#include <QTranslator>
 #include <cstdlib>
 
 namespace {
@@ -38,11 +41,22 @@ QStringList parsePaths(const QApplication& app)
     return absolutePaths(parser.positionalArguments());
 }
 
+// Qt's own dialogs, buttons and shortcut names in the user's language, where the system has
+// Qt's translations (Debian's qt6-translations-l10n); English otherwise.
+void installQtTranslations(QApplication& app)
+{
+    auto* translator = new QTranslator(&app);
+    if (translator->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(translator);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
+    installQtTranslations(app);
     QApplication::setOrganizationName(QStringLiteral("Palisade Soft"));
     QApplication::setApplicationName(QStringLiteral("Tavrin3"));
     QApplication::setApplicationDisplayName(tavrin::localized("APPTITLE"));

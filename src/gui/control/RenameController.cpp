@@ -133,6 +133,8 @@ QString RenameController::renamedCountText() const
                        .arg(formattedCount(m_applyOutcome.renamed));
     if (m_applyOutcome.failed > 0)
         text += QLatin1Char(' ') + localized("NOTRENAMEDCOUNT").arg(formattedCount(m_applyOutcome.failed));
+    if (m_applyOutcome.untouched > 0)
+        text += QLatin1Char(' ') + localized("UNTOUCHEDCOUNT").arg(formattedCount(m_applyOutcome.untouched));
     return text;
 }
 

@@ -165,7 +165,8 @@ void RenamePanel::actionApply()
     if (m_rename->list().isExecuting() || !m_rename->isHasFilesForRenaming())
         return;
     m_attached->hide();
-    if (!m_prompter->confirmRename(window(), m_rename->lastPreviewOutcome().conflicts))
+    const PreviewOutcome& preview = m_rename->lastPreviewOutcome();
+    if (!m_prompter->confirmRename(window(), { preview.proposals, preview.conflicts }))
         return;
     // Asked later from the worker; the panel may be gone by then.
     const QPointer<RenamePanel> panel(this);

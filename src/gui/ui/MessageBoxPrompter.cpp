@@ -15,8 +15,8 @@ namespace {
 
 // The labels of a two-button question.
 struct Answers {
-    const char* acceptKey;
-    const char* rejectKey;
+    QString accept;
+    QString reject;
 };
 
 // A two-button question; true when the first (default) button was chosen. Esc and the
@@ -24,8 +24,8 @@ struct Answers {
 bool ask(QWidget* parent, const PromptText& text, QMessageBox::Icon icon, Answers answers)
 {
     QMessageBox box(icon, text.title, text.message, QMessageBox::NoButton, parent);
-    QPushButton* accept = box.addButton(localized(answers.acceptKey), QMessageBox::AcceptRole);
-    QPushButton* reject = box.addButton(localized(answers.rejectKey), QMessageBox::RejectRole);
+    QPushButton* accept = box.addButton(answers.accept, QMessageBox::AcceptRole);
+    QPushButton* reject = box.addButton(answers.reject, QMessageBox::RejectRole);
     box.setDefaultButton(accept);
     box.setEscapeButton(reject);
     box.exec();
@@ -74,19 +74,23 @@ QMessageBox::Icon iconOf(Prompter::Severity severity)
 
 } // namespace
 
-bool MessageBoxPrompter::confirmRename(QWidget* parent, int conflicts)
+bool MessageBoxPrompter::confirmRename(QWidget* parent, const RenameQuestion& question)
 {
+    const QLocale locale;
     QString message = localized("ITEMRENAMINGMESSAGE");
-    if (conflicts > 0)
-        message += QStringLiteral("\n\n") + localized("CONFLICTSWARNING").arg(QLocale().toString(conflicts));
+    if (question.conflicts > 0)
+        message += QStringLiteral("\n\n") + localized("CONFLICTSWARNING").arg(locale.toString(question.conflicts));
+    // The button says what it does, as desktop guidelines ask: "Rename 1,005 items".
+    const Answers answers { localized("RENAMEITEMSBUTTON").arg(locale.toString(question.items)),
+        localized("CANCEL") };
     return ask(parent, { localized("ITEMRENAMINGTITLE"), message },
-        conflicts > 0 ? QMessageBox::Warning : QMessageBox::Question, { "YES", "NO" });
+        question.conflicts > 0 ? QMessageBox::Warning : QMessageBox::Question, answers);
 }
 
 bool MessageBoxPrompter::continueWithoutLog(QWidget* parent)
 {
     return ask(parent, { localized("ITEMRENAMINGTITLE"), localized("LOGCREATEFAILED") }, QMessageBox::Warning,
-        { "CONTINUE", "ABORT" });
+        { localized("CONTINUE"), localized("ABORT") });
 }
 
 void MessageBoxPrompter::alert(QWidget* parent, Severity severity, const PromptText& text)
@@ -98,7 +102,7 @@ void MessageBoxPrompter::alert(QWidget* parent, Severity severity, const PromptT
 
 bool MessageBoxPrompter::askYesNo(QWidget* parent, const PromptText& text)
 {
-    return ask(parent, text, QMessageBox::Question, { "YES", "NO" });
+    return ask(parent, text, QMessageBox::Question, { localized("YES"), localized("NO") });
 }
 
 QString MessageBoxPrompter::choose(QWidget* parent, Choice choice, const ChooserQuestion& question)

@@ -8,7 +8,7 @@ namespace tavrin {
 // texts, and opens files through the desktop's default applications.
 class MessageBoxPrompter final : public Prompter {
 public:
-    bool confirmRename(QWidget* parent, int conflicts) override;
+    bool confirmRename(QWidget* parent, const RenameQuestion& question) override;
     bool continueWithoutLog(QWidget* parent) override;
     void alert(QWidget* parent, Severity severity, const PromptText& text) override;
     bool askYesNo(QWidget* parent, const PromptText& text) override;

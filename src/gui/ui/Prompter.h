@@ -18,6 +18,13 @@ struct ChooserQuestion {
     QString folder;
 };
 
+// What a rename is about to do: how many items get a new name, and how many of those
+// proposals another item also proposes.
+struct RenameQuestion {
+    int items = 0;
+    int conflicts = 0;
+};
+
 // What the window and its sheets ask of the user and of the desktop: questions, alerts, the
 // choice of a file or a folder, and opening a file in another application. They go through this
 // interface so that a test can answer without a dialog and without starting a viewer;
@@ -31,8 +38,9 @@ public:
 
     virtual ~Prompter() = default;
 
-    // "Rename the listed items?": true for YES. Says so when `conflicts` proposals collide.
-    virtual bool confirmRename(QWidget* parent, int conflicts) = 0;
+    // "Rename the listed items?": true for the rename button, which names the count. Says so
+    // when proposals collide.
+    virtual bool confirmRename(QWidget* parent, const RenameQuestion& question) = 0;
     // The log cannot be written: true for CONTINUE (rename without it), false for ABORT.
     virtual bool continueWithoutLog(QWidget* parent) = 0;
     // An alert with one OK button.

@@ -231,6 +231,7 @@ TEST_F(PipelineTest, CancelKeepsWhatWasRenamedAndLogged)
 
     EXPECT_TRUE(outcome.cancelled);
     EXPECT_EQ(outcome.renamed, 1);
+    EXPECT_EQ(outcome.untouched, 4) << "the window reports what the cancel left";
     EXPECT_TRUE(tree.exists(u"F0.txt"_s));
     EXPECT_TRUE(tree.exists(u"f1.txt"_s));
     EXPECT_EQ(loggedEntries(outcome.logPath), 1);
