@@ -29,38 +29,36 @@ QString paddedByMask(const QString& value, const QString& mask)
     return mask.left(mask.size() - value.size()) + value;
 }
 
-QString numberedName(const QString& name, const QString& value, const SequenceOptions& options)
+// The value placed beside the name. At both ends a number stands on either side of the
+// name, while the name stands on either side of a letter value.
+enum class BothEnds { ValueOutside, NameOutside };
+
+QString placedValue(const QString& name, const QString& value, const QString& separator,
+                    SequencePlacement placement, BothEnds bothEnds)
 {
-    const QString separator = storedName(options.separator);
-    switch (options.placement) {
+    switch (placement) {
     case SequencePlacement::BeforeName:
         return value + separator + name;
     case SequencePlacement::AfterName:
         return name + separator + value;
     case SequencePlacement::BothEnds:
-        return value + separator + name + separator + value;
+        return bothEnds == BothEnds::ValueOutside ? value + separator + name + separator + value
+                                                  : name + separator + value + separator + name;
     case SequencePlacement::InsteadOfName:
         break;
     }
     return value;
 }
 
-// Unlike the numeric placement, the suffix wraps what the prefix built: at both ends, the
-// name stands on either side of the value.
+// A typed "/" in a number's separator stands for ":"; a letter separator is taken as given.
+QString numberedName(const QString& name, const QString& value, const SequenceOptions& options)
+{
+    return placedValue(name, value, storedName(options.separator), options.placement, BothEnds::ValueOutside);
+}
+
 QString letteredName(const QString& name, const QString& value, const SequenceOptions& options)
 {
-    const QString& separator = options.separator;
-    switch (options.placement) {
-    case SequencePlacement::BeforeName:
-        return value + separator + name;
-    case SequencePlacement::AfterName:
-        return name + separator + value;
-    case SequencePlacement::BothEnds:
-        return name + separator + value + separator + name;
-    case SequencePlacement::InsteadOfName:
-        break;
-    }
-    return value;
+    return placedValue(name, value, options.separator, options.placement, BothEnds::NameOutside);
 }
 
 // The largest number a run over `count` items reaches: the last one when counting up, the
