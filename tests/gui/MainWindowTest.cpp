@@ -125,6 +125,26 @@ TEST_F(MainWindowTest, TheModeChoosesTheAddCommandsAndAChangeEmptiesTheList)
     EXPECT_EQ(action("addFilesAction")->shortcut(), QKeySequence(QKeySequence::Open));
 }
 
+// A list is never lost silently: Clear and a switch between files and folders ask first, and
+// No keeps the list and the window's choice.
+TEST_F(MainWindowTest, EmptyingAListAsksFirst)
+{
+    addFiles({ u"a.txt"_s, u"b.txt"_s });
+    prompter->yesNoAnswer = false;
+    action("clearAction")->trigger();
+    QTest::mouseClick(child<QRadioButton>(u"foldersModeButton"_s), Qt::LeftButton);
+    EXPECT_EQ(prompter->questions.size(), 2);
+    EXPECT_EQ(listedNames().size(), 2);
+    EXPECT_TRUE(child<QRadioButton>(u"filesModeButton"_s)->isChecked()) << "the choice goes back";
+    EXPECT_FALSE(list().isFolders());
+
+    prompter->yesNoAnswer = true;
+    action("clearAction")->trigger();
+    EXPECT_TRUE(listedNames().isEmpty());
+    action("clearAction")->trigger();
+    EXPECT_EQ(prompter->questions.size(), 3) << "an empty list is cleared without a question";
+}
+
 TEST_F(MainWindowTest, RemoveWithNothingSelectedPointsAtItsButtonElseTakesTheRows)
 {
     addFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s, u"d.txt"_s });

@@ -248,8 +248,7 @@ void MainWindow::connectController()
     connect(status, &ActivityStatus::progressMessage, m_progressLabel, &ElidedLabel::setFullText);
     connect(status, &ActivityStatus::lastActionTimeTakenChanged, m_timeLabel, &QLabel::setText);
 
-    connect(m_modeSelector, &ListModeSelector::modeChosen, list,
-        [this](ListMode mode) { m_controller->list().setMode(mode); });
+    connect(m_modeSelector, &ListModeSelector::modeChosen, list, [this](ListMode mode) { chooseMode(mode); });
     connect(m_modeSelector, &ListModeSelector::includeSubFoldersChosen, list,
         [this](bool include) { m_controller->list().setIncludeSubFolders(include); });
 
@@ -353,10 +352,31 @@ void MainWindow::removeSelected()
     m_table->setFocus();
 }
 
+// A list is never lost without a word: emptying one that holds items asks first.
+bool MainWindow::confirmEmptyingList(const char* messageKey)
+{
+    const int count = m_controller->list().shownCount();
+    return count == 0
+        || m_prompter->askYesNo(this, { localized("APPTITLE"), localized(messageKey).arg(QLocale().toString(count)) });
+}
+
 void MainWindow::clearList()
 {
     m_attached->hide();
-    m_controller->list().clear();
+    if (confirmEmptyingList("CLEARLISTCONFIRM"))
+        m_controller->list().clear();
+}
+
+// A change between files and folders empties the list; answered No, the choice goes back.
+void MainWindow::chooseMode(ListMode mode)
+{
+    const ListController& list = m_controller->list();
+    const bool changes = (mode == ListMode::Folders) != list.isFolders();
+    if (changes && !confirmEmptyingList("MODECHANGECONFIRM")) {
+        modeChanged();
+        return;
+    }
+    m_controller->list().setMode(mode);
 }
 
 void MainWindow::moveSelectedUp()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "gui/control/ListMode.h"
+
 #include <QList>
 #include <QMainWindow>
 #include <QStringList>
@@ -69,6 +71,8 @@ private:
     void chooseFiles();
     void chooseFolders();
     void removeSelected();
+    bool confirmEmptyingList(const char* messageKey);
+    void chooseMode(ListMode mode);
     void clearList();
     void moveSelectedUp();
     void moveSelectedDown();
