@@ -325,6 +325,10 @@ TEST_F(UndoSheetTest, ViewAndHelpHandFilesToTheDesktop)
     click("viewLogButton");
     ASSERT_EQ(prompter->alerts.size(), 1);
     EXPECT_EQ(prompter->alerts.first().message, localized("VIEWLOGFAILED").arg(oldest));
+    // Without a browser, the alert says where the manual is.
+    QTest::mouseClick(sheet->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Help), Qt::LeftButton);
+    ASSERT_EQ(prompter->alerts.size(), 2);
+    EXPECT_TRUE(prompter->alerts.last().message.contains(prompter->opened.last()));
 }
 
 TEST_F(UndoSheetTest, TheSheetStaysResponsiveThroughALongUndo)

@@ -78,7 +78,7 @@ void WindowSheets::showHelpPage(const QString& page)
 {
     const QString file = helpPageFile(page);
     if (file.isEmpty() || !m_prompter->openWithDesktop(file))
-        m_prompter->warn(m_window, { localized("HELP"), localized("HELPUNAVAILABLE") });
+        m_prompter->warn(m_window, { localized("HELP"), helpUnavailableText(file) });
 }
 
 void WindowSheets::showAbout()

@@ -59,4 +59,12 @@ QString helpPageFile(const QString& name)
     return folder + QLatin1Char('/') + name;
 }
 
+QString helpUnavailableText(const QString& pageFile)
+{
+    QString text = localized("HELPUNAVAILABLE");
+    if (!pageFile.isEmpty())
+        text += QLatin1Char('\n') + localized("HELPPAGEAT").arg(pageFile);
+    return text;
+}
+
 } // namespace tavrin

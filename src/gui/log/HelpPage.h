@@ -12,4 +12,8 @@ namespace tavrin {
 // page is unknown or the copies could not be written.
 QString helpPageFile(const QString& name);
 
+// What to tell when the page could not be shown: without a browser, where the copy of the
+// page is, so it can be opened by hand.
+QString helpUnavailableText(const QString& pageFile);
+
 } // namespace tavrin

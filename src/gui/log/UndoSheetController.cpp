@@ -368,7 +368,7 @@ void UndoSheetController::showHelp()
 {
     const QString page = helpPageFile(QStringLiteral("undo.html"));
     if (page.isEmpty() || !m_context.prompter->openWithDesktop(page))
-        alert(Severity::Warning, "HELP", localized("HELPUNAVAILABLE"));
+        alert(Severity::Warning, "HELP", helpUnavailableText(page));
 }
 
 // Closing waits for a running undo: the sheet is the only place that reports how it ended.
