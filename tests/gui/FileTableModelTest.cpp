@@ -1,6 +1,7 @@
 #include "gui/list/FileTableModel.h"
 
 #include "GuiFixture.h"
+#include "core/text/LocalizedStrings.h"
 
 #include <QIcon>
 
@@ -48,6 +49,27 @@ TEST_F(FileTableModelTest, EachColumnShowsItsFieldOfTheRecord)
         EXPECT_EQ(text(FileTableModel::TypeColumn), row.type);
         EXPECT_EQ(model.index(0, FileTableModel::NameColumn).data(Qt::ToolTipRole).toString(),
             tree.path(row.path).replace(u':', u'/'));
+    }
+}
+
+// A row's tooltip says why it cannot be renamed.
+TEST(FileTableModelToolTip, NamesThePathAndWhyTheRowCannotBeRenamed)
+{
+    TempTree tree;
+    const QString path = tree.file(u"a.txt"_s);
+    const std::pair<RenameStatus, const char*> rows[] = {
+        { RenameStatus::None, nullptr },
+        { RenameStatus::RenamingOk, nullptr },
+        { RenameStatus::NoChanges, "NOCHANGESTOOLTIP" },
+        { RenameStatus::FileAlreadyExists, "ALREADYEXISTSTOOLTIP" },
+        { RenameStatus::FileNotFound, "NOTFOUNDTOOLTIP" },
+    };
+    for (const auto& [status, key] : rows) {
+        FileSystemItem item = *FileSystemItem::initWithPath(path);
+        if (status != RenameStatus::None)
+            item.setStatus(status);
+        const QString expected = key ? path + u'\n' + localized(key) : path;
+        EXPECT_EQ(FileTableModel::toolTip(item), expected) << statusText(status).toStdString();
     }
 }
 

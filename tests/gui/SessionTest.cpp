@@ -4,6 +4,7 @@
 #include "core/profiles/ProfileFile.h"
 #include "core/text/LocalizedStrings.h"
 #include "gui/app/DocumentOpener.h"
+#include "gui/control/ActivityStatus.h"
 #include "gui/control/LivePreview.h"
 
 #include <QElapsedTimer>
@@ -167,10 +168,15 @@ TEST_F(SessionTest, ALimitedLivePreviewLeavesTheRestEmptyAndCannotBeRenamed)
     chooseUpperCase();
     for (const CoverageRow& row : { CoverageRow { false, 2, false }, CoverageRow { true, 5, true } }) {
         rename().setLivePreviewCoverage(row.allFiles, u"2"_s);
+        QSignalSpy messages(&controller.status(), &ActivityStatus::progressMessage);
         ASSERT_TRUE(
             livePreviewAndWait([&] { return rename().quickPreview(rename().livePreview().recordLimit()); }));
         EXPECT_EQ(proposals(), row.proposals);
         EXPECT_EQ(rename().isHasFilesForRenaming(), row.hasFilesForRenaming);
+        // The status line says why Rename stays disabled.
+        ASSERT_FALSE(messages.isEmpty());
+        EXPECT_EQ(messages.last().first().toString(),
+            row.allFiles ? QString() : localized("PARTIALLIVEPREVIEW").arg(2));
     }
 }
 

@@ -9,6 +9,7 @@
 #include "gui/control/SessionController.h"
 
 #include <QLocale>
+#include <algorithm>
 #include <memory>
 
 namespace tavrin {
@@ -115,7 +116,12 @@ void RenameController::finishQuickPreview(int limit)
 {
     const bool coveredAll = (limit < 0 || limit >= m_list.shownCount()) && !m_previewOutcome.cancelled;
     setHasFilesForRenaming(coveredAll && m_previewOutcome.hasFilesForRenaming);
-    m_list.status().showMessage(m_previewOutcome.actionSucceeded ? QString() : m_previewOutcome.lastError);
+    if (!m_previewOutcome.actionSucceeded)
+        m_list.status().showMessage(m_previewOutcome.lastError);
+    else if (!coveredAll && m_previewOutcome.hasFilesForRenaming)
+        m_list.status().showMessage(localized("PARTIALLIVEPREVIEW").arg(formattedCount(std::max(limit, 0))));
+    else
+        m_list.status().showMessage(QString());
     emit livePreviewFinished();
 }
 

@@ -80,9 +80,7 @@ QVariant FileTableModel::data(const QModelIndex& index, int role) const
     case Qt::DecorationRole:
         return index.column() == IconColumn ? QVariant(m_icons.icon(item)) : QVariant();
     case Qt::ToolTipRole:
-        if (item.isConflict())
-            return getDisplayFilePath(item.fullPath()) + QLatin1Char('\n') + localized("CONFLICTTOOLTIP");
-        return getDisplayFilePath(item.fullPath());
+        return toolTip(item);
     case Qt::FontRole:
         if (index.column() == NewNameColumn && item.hasStatus()) {
             QFont font;
@@ -93,6 +91,37 @@ QVariant FileTableModel::data(const QModelIndex& index, int role) const
     default:
         return {};
     }
+}
+
+namespace {
+
+// Why a row cannot be renamed, for its tooltip; none for a row that can.
+const char* reasonKey(const FileSystemItem& item)
+{
+    switch (item.status()) {
+    case RenameStatus::NoChanges:
+        return "NOCHANGESTOOLTIP";
+    case RenameStatus::FileAlreadyExists:
+    case RenameStatus::FolderAlreadyExists:
+        return "ALREADYEXISTSTOOLTIP";
+    case RenameStatus::FileNotFound:
+    case RenameStatus::FolderNotFound:
+        return "NOTFOUNDTOOLTIP";
+    case RenameStatus::None:
+    case RenameStatus::RenamingOk:
+        break;
+    }
+    return item.isConflict() ? "CONFLICTTOOLTIP" : nullptr;
+}
+
+} // namespace
+
+// The item's path, and why it cannot be renamed when it cannot.
+QString FileTableModel::toolTip(const FileSystemItem& item)
+{
+    const QString path = getDisplayFilePath(item.fullPath());
+    const char* reason = reasonKey(item);
+    return reason ? path + QLatin1Char('\n') + localized(reason) : path;
 }
 
 QString FileTableModel::displayText(const QModelIndex& index) const

@@ -14,6 +14,8 @@ class FileTableModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
+    // The path of the item, and why it cannot be renamed when it cannot.
+    static QString toolTip(const FileSystemItem& item);
     enum Column { IconColumn, NameColumn, NewNameColumn, LocationColumn, ExtensionColumn, TypeColumn, ColumnCount };
 
     explicit FileTableModel(ListController* list, QObject* parent = nullptr);
