@@ -18,6 +18,10 @@ set(TAVRIN_MIME_ICON_SIZES 16 22 24 32 48 64 128 256)
 
 install(FILES "${TAVRIN_DESKTOP_DIR}/${TAVRIN_APP_ID}.desktop"
   DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+# Dolphin's service menu, where KDE 5 and 6 look for it.
+install(FILES "${TAVRIN_DESKTOP_DIR}/${TAVRIN_APP_ID}.servicemenu.desktop"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/kio/servicemenus"
+  RENAME "${TAVRIN_APP_ID}.desktop")
 install(FILES "${TAVRIN_DESKTOP_DIR}/${TAVRIN_APP_ID}.metainfo.xml"
   DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
 install(FILES "${TAVRIN_DESKTOP_DIR}/${TAVRIN_APP_ID}.mime.xml"

@@ -85,9 +85,13 @@ else
     [[ $categories == *";$category;"* ]] || fail "Categories lacks $category"
   done
   mime_list=";$(entry MimeType)"
-  for type in inode/directory application/octet-stream "${own_mime_types[@]}"; do
+  for type in inode/directory image/jpeg audio/mpeg video/mp4 application/pdf "${own_mime_types[@]}"; do
     [[ $mime_list == *";$type;"* ]] || fail "MimeType lacks $type"
   done
+  # A handler of every file type is offered for everything a file manager selects.
+  [[ $mime_list == *";application/octet-stream;"* ]] && fail "MimeType claims application/octet-stream"
+  servicemenu="$share/kio/servicemenus/$app_id.desktop"
+  grep -q '^Exec=tavrin %F$' "$servicemenu" 2>/dev/null || fail "no Dolphin service menu running tavrin"
 fi
 
 # ---- AppStream metainfo -------------------------------------------------------------------
