@@ -5,12 +5,16 @@
 #include "gui/ui/AttachedWindow.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QClipboard>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QRadioButton>
+#include <QTimer>
 #include <QToolBar>
 #include <QUrl>
 
@@ -143,6 +147,47 @@ TEST_F(MainWindowTest, EmptyingAListAsksFirst)
     EXPECT_TRUE(listedNames().isEmpty());
     action("clearAction")->trigger();
     EXPECT_EQ(prompter->questions.size(), 3) << "an empty list is cleared without a question";
+}
+
+// Opens a context menu, answers it with the action of that text (none: closes it), and
+// answers the texts it offered.
+QStringList useContextMenu(QWidget* owner, const QPoint& position, const QString& choice)
+{
+    QStringList offered;
+    QTimer::singleShot(0, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu)
+            return;
+        for (QAction* action : menu->actions()) {
+            offered << action->text();
+            if (action->text() == choice)
+                action->trigger();
+        }
+        menu->close();
+    });
+    emit owner->customContextMenuRequested(position);
+    return offered;
+}
+
+TEST_F(MainWindowTest, ContextMenusOnRowsAndOnTheHeader)
+{
+    addFiles({ u"a.txt"_s });
+    auto* table = child<FileTableView>(u"fileTable"_s);
+    const QPoint row = table->visualRect(table->model()->index(0, FileTableModel::NameColumn)).center();
+    const QStringList offered = useContextMenu(table, row, localized("COPYNAME"));
+    for (const QString& text : { localized("OPENCONTAININGFOLDER"), localized("COPYNAME"), localized("COPYNEWNAME") })
+        EXPECT_TRUE(offered.contains(text)) << text.toStdString();
+    EXPECT_TRUE(offered.contains(action("removeAction")->text()));
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"a.txt"_s);
+
+    const QString location = table->model()->headerData(FileTableModel::LocationColumn, Qt::Horizontal).toString();
+    useContextMenu(table->horizontalHeader(), QPoint(5, 5), location);
+    EXPECT_TRUE(table->isColumnHidden(FileTableModel::LocationColumn));
+    // Kept between runs: a new window hides it too.
+    MainWindow again(&controller);
+    EXPECT_TRUE(again.findChild<FileTableView*>(u"fileTable"_s)->isColumnHidden(FileTableModel::LocationColumn));
+    useContextMenu(table->horizontalHeader(), QPoint(5, 5), location);
+    EXPECT_FALSE(table->isColumnHidden(FileTableModel::LocationColumn));
 }
 
 TEST_F(MainWindowTest, RemoveWithNothingSelectedPointsAtItsButtonElseTakesTheRows)

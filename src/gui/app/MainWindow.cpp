@@ -6,6 +6,7 @@
 #include "gui/app/DocumentCommands.h"
 #include "gui/app/DocumentOpener.h"
 #include "gui/app/TavrinAppController.h"
+#include "gui/app/TableContextMenus.h"
 #include "gui/app/WindowActions.h"
 #include "gui/app/WindowSheets.h"
 #include "gui/control/LivePreview.h"
@@ -80,6 +81,8 @@ MainWindow::MainWindow(TavrinAppController* controller, QWidget* parent)
 
     createToolBar();
     setCentralWidget(createCentralArea());
+    m_contextMenus = new TableContextMenus({ m_table, m_actions, &controller->rename() }, this);
+    m_contextMenus->restoreHiddenColumns();
     m_actions->fillMenuBar(menuBar(), { m_renamePanel->previewAction(), m_renamePanel->applyAction() });
     createStatusArea();
     handOutPrompter();
@@ -109,6 +112,7 @@ void MainWindow::handOutPrompter()
     m_documents->setPrompter(m_prompter.get());
     m_sheets->setPrompter(m_prompter.get());
     m_renamePanel->setPrompter(m_prompter.get());
+    m_contextMenus->setPrompter(m_prompter.get());
 }
 
 void MainWindow::connectActions()

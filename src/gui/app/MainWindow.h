@@ -24,6 +24,7 @@ class Prompter;
 class FileTableModel;
 class FileTableView;
 class ListModeSelector;
+class TableContextMenus;
 class RenamePanel;
 class TavrinAppController;
 class WindowActions;
@@ -103,6 +104,7 @@ private:
     QWidget* m_actionArea = nullptr;
     RenamePanel* m_renamePanel = nullptr;
     QToolBar* m_toolBar = nullptr;
+    TableContextMenus* m_contextMenus = nullptr;
     ListModeSelector* m_modeSelector = nullptr;
     AttachedWindow* m_attached;
     std::unique_ptr<Prompter> m_prompter;

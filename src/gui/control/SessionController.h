@@ -22,6 +22,8 @@ inline constexpr char Defaults[] = "DEFAULTS";
 inline constexpr char LivePreview[] = "LIVEPREVIEW";
 inline constexpr char LivePreviewAllFiles[] = "LIVEPREVIEWALLFILES";
 inline constexpr char LivePreviewFilesLimit[] = "LIVEPREVIEWFILESLIMIT";
+// The file table's columns the user hid.
+inline constexpr char HiddenColumns[] = "HIDDENCOLUMNS";
 } // namespace userdefaults
 
 // How opening a profile ended, with the message to show when it failed.

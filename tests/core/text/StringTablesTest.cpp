@@ -23,6 +23,7 @@ const QSet<QString> kNotKeys = {
     QStringLiteral("LIVEPREVIEW"),
     QStringLiteral("LIVEPREVIEWALLFILES"),
     QStringLiteral("LIVEPREVIEWFILESLIMIT"),
+    QStringLiteral("HIDDENCOLUMNS"),
 };
 
 // Texts that read the same in a language as in English.
