@@ -22,3 +22,6 @@ tavrin_add_test(test_gui_pasteboard_items_sheet GUI SOURCES ${CMAKE_CURRENT_LIST
 tavrin_add_test(test_gui_session GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/SessionTest.cpp)
 tavrin_add_test(test_gui_document_commands GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/DocumentCommandsTest.cpp)
 tavrin_add_test(test_gui_outside_items GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/OutsideItemsTest.cpp)
+tavrin_add_test(test_gui_audio_tab GUI
+  SOURCES ${CMAKE_CURRENT_LIST_DIR}/AudioTabTest.cpp ${PROJECT_SOURCE_DIR}/tests/core/metadata/AudioFiles.cpp
+  LIBS PkgConfig::TAGLIB)
