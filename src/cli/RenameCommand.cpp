@@ -50,6 +50,14 @@ const char* commandName(Mode mode)
 }
 
 // The options start at the empty profile, except that sub-folders follow --recursive.
+// The audio tab rebuilds its mask when its tokens or their separator change; so does --set.
+bool rebuildsID3Mask(const QString& key)
+{
+    return key == QLatin1String(Settings::id3RenamingTagsListKey)
+        || key == QLatin1String(Settings::id3RenamingSeperatorKey)
+        || key == QLatin1String(Settings::isID3RenamingSeperatorKey);
+}
+
 bool configureSettings(Settings& settings, const CommonOptions& common, const RenameOptions& extra, QString& error)
 {
     settings.chooseFilesOrFolders(common.scan.folders ? 1 : 0);
@@ -59,6 +67,8 @@ bool configureSettings(Settings& settings, const CommonOptions& common, const Re
         if (!Settings::isRadioIndexKey(key)) {
             if (!settings.setOptionFromString(key, value, &error))
                 return false;
+            if (rebuildsID3Mask(key))
+                settings.resetID3Mask();
             continue;
         }
         bool isNumber = false;

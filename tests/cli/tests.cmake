@@ -9,3 +9,9 @@ add_dependencies(test_cli_rename tavrin-cli)
 tavrin_add_test(test_cli_undo SOURCES ${CMAKE_CURRENT_LIST_DIR}/UndoCommandTest.cpp)
 target_compile_definitions(test_cli_undo PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
 add_dependencies(test_cli_undo tavrin-cli)
+
+tavrin_add_test(test_cli_audio
+  SOURCES ${CMAKE_CURRENT_LIST_DIR}/AudioCommandTest.cpp ${PROJECT_SOURCE_DIR}/tests/core/metadata/AudioFiles.cpp
+  LIBS PkgConfig::TAGLIB)
+target_compile_definitions(test_cli_audio PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
+add_dependencies(test_cli_audio tavrin-cli)

@@ -20,3 +20,6 @@ tavrin_add_test(test_gui_widgets GUI SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/PasteboardItemsSheetTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PreferencesSheetTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TextFieldFormatterTest.cpp)
+tavrin_add_test(test_gui_audio_tab GUI
+  SOURCES ${CMAKE_CURRENT_LIST_DIR}/AudioTabTest.cpp ${PROJECT_SOURCE_DIR}/tests/core/metadata/AudioFiles.cpp
+  LIBS PkgConfig::TAGLIB)

@@ -1,6 +1,7 @@
 #include "core/engine/ActionRegistry.h"
 
 #include "core/engine/actions/alphanumeric.h"
+#include "core/engine/actions/audiotags.h"
 #include "core/engine/actions/general.h"
 #include "core/engine/actions/insertdelete.h"
 #include "core/engine/actions/replaceremove.h"
@@ -50,12 +51,20 @@ BoundAction bindReplaceRemove(const OptionValues& values)
     };
 }
 
+BoundAction bindID3Tags(const OptionValues& values)
+{
+    return [options = ID3Options::from(values)](FileSystemItem& item, QString& error) {
+        return renameByID3Tags(item, options, error);
+    };
+}
+
 // One row per tab; the actions of later tabs join this table as they are built.
 const ActionEntry kActions[] = {
     {tabs::AlphaNumeric, "AlphaNumeric", bindSequence, Settings::isAlphaNumericResetSequenceOnEachFolderKey},
     {tabs::InsertDelete, "InsertDelete", bindInsertDelete, nullptr},
     {tabs::ReplaceRemove, "ReplaceRemove", bindReplaceRemove, nullptr},
     {tabs::General, "General", bindGeneral, nullptr},
+    {tabs::Audio, "ID3", bindID3Tags, nullptr},
     {tabs::FromFile, "", nullptr, nullptr},
 };
 

@@ -47,4 +47,9 @@ bool PropertyOptionValues::boolean(const char* key) const
     return found.toBool();
 }
 
+QStringList PropertyOptionValues::list(const char* key) const
+{
+    return value(key).toStringList();
+}
+
 }  // namespace tavrin

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QHash>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 class QObject;
@@ -17,6 +18,7 @@ public:
     virtual QString text(const char* key) const = 0;
     virtual int integer(const char* key) const = 0;
     virtual bool boolean(const char* key) const = 0;
+    virtual QStringList list(const char* key) const = 0;
 };
 
 // The Qt properties of an object (the settings object) as they are when this is made: a
@@ -29,6 +31,7 @@ public:
     QString text(const char* key) const override;
     int integer(const char* key) const override;
     bool boolean(const char* key) const override;
+    QStringList list(const char* key) const override;
 
 private:
     QVariant value(const char* key) const;

@@ -384,6 +384,17 @@ bool Settings::choosePathComponentsPlacement(int index)
     return true;
 }
 
+void Settings::resetID3Mask()
+{
+    QString mask;
+    for (const QString& token : std::as_const(m_id3RenamingTagsList)) {
+        if (m_isID3RenamingSeperator && !mask.isEmpty())
+            mask += m_id3RenamingSeperator;
+        mask += token;
+    }
+    setId3RenamingMask(mask);
+}
+
 bool Settings::isRadioIndexKey(const QString& key)
 {
     return radioGroup(key) != nullptr;

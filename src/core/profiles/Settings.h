@@ -301,6 +301,12 @@ public:
     bool chooseGeneralOption(int index);            // 0 ... 11
     bool choosePathComponentsPlacement(int index);  // 0 beginning ... 4 after text
 
+    // Rebuilds id3RenamingMask from id3RenamingTagsList: the tokens in order, with the
+    // separator between them when the separator is on. Whoever changes the list, the
+    // separator or its switch on a user's behalf calls it; the mask can still be set on its
+    // own afterwards.
+    void resetID3Mask();
+
     // The index options that drive a radio group (e.g. "generalOptionIndex",
     // "fileFolderIndex"); setting one by key through chooseRadioOption also sets its mirrors.
     static bool isRadioIndexKey(const QString& key);

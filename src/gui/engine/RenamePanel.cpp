@@ -7,6 +7,7 @@
 #include "gui/control/SessionController.h"
 #include "gui/engine/ActionTab.h"
 #include "gui/engine/ActionTabs.h"
+#include "gui/engine/AudioTab.h"
 #include "gui/engine/GeneralTab.h"
 #include "gui/engine/InsertDeleteTab.h"
 #include "gui/engine/ReplaceRemoveTab.h"
@@ -81,6 +82,7 @@ RenamePanel::RenamePanel(
     m_tabs->addActionTab(new InsertDeleteTab(settings), tabs::InsertDelete, localized("INSERTDELETETAB"));
     m_tabs->addActionTab(new ReplaceRemoveTab(settings), tabs::ReplaceRemove, localized("REPLACEREMOVETAB"));
     m_tabs->addActionTab(new GeneralTab(settings), tabs::General, localized("GENERALTAB"));
+    m_tabs->addActionTab(new AudioTab(settings), tabs::Audio, localized("AUDIOTAB"));
     m_tabs->showSelectedTab();
     createActions();
 

@@ -426,6 +426,7 @@ TEST(ActionRegistry, RulesNameTheActionsOfTheirTabs)
               Settings::isAlphaNumericResetSequenceOnEachFolderKey);
     EXPECT_EQ(actionForRule(u"InsertDelete"_s)->tab, tabs::InsertDelete);
     EXPECT_EQ(actionForRule(u"ReplaceRemove"_s)->tab, tabs::ReplaceRemove);
+    EXPECT_EQ(actionForRule(u"ID3"_s)->tab, tabs::Audio);
     // The rename-from-file tab runs no action, so no rule names it.
     EXPECT_EQ(actionForRule(QString()), nullptr);
     EXPECT_EQ(actionForTab(tabs::FromFile)->bind, nullptr);

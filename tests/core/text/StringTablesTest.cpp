@@ -24,14 +24,19 @@ const QSet<QString> kNotKeys = {
     QStringLiteral("LIVEPREVIEWALLFILES"),
     QStringLiteral("LIVEPREVIEWFILESLIMIT"),
     QStringLiteral("HIDDENCOLUMNS"),
+    // The audio tag library's property names and the rule name of the audio action.
+    QStringLiteral("ARTIST"),
+    QStringLiteral("COMPOSER"),
+    QStringLiteral("ID3"),
 };
 
 // Texts that read the same in a language as in English.
 const QHash<QString, QSet<QString>> kSameAsEnglish = {
     {QStringLiteral("fr"), {QStringLiteral("Tavrin"), QStringLiteral("OK"), QStringLiteral("N"), QStringLiteral("Type"),
-        QStringLiteral("Extension")}},
+        QStringLiteral("Extension"), QStringLiteral("Album"), QStringLiteral("Genre"), QStringLiteral("Options")}},
     {QStringLiteral("de"), {QStringLiteral("Tavrin"), QStringLiteral("OK"), QStringLiteral("N"), QStringLiteral("Name"),
-        QStringLiteral("Text"), QStringLiteral("Text:"), QStringLiteral("%2: %1 s")}},
+        QStringLiteral("Text"), QStringLiteral("Text:"), QStringLiteral("%2: %1 s"), QStringLiteral("Album"), QStringLiteral("Genre"),
+        QStringLiteral("Tags")}},
     {QStringLiteral("es"), {QStringLiteral("Tavrin"), QStringLiteral("N"), QStringLiteral("No"), QStringLiteral("General"),
         QStringLiteral("%2: %1 s")}},
 };

@@ -2,3 +2,6 @@ tavrin_add_test(test_general_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/GeneralAct
 tavrin_add_test(test_replaceremove_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/ReplaceRemoveActionTest.cpp)
 tavrin_add_test(test_insertdelete_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/InsertDeleteActionTest.cpp)
 tavrin_add_test(test_alphanumeric_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/AlphaNumericActionTest.cpp)
+tavrin_add_test(test_audiotags_action
+  SOURCES ${CMAKE_CURRENT_LIST_DIR}/AudioTagsActionTest.cpp ${PROJECT_SOURCE_DIR}/tests/core/metadata/AudioFiles.cpp
+  LIBS PkgConfig::TAGLIB)

@@ -1,0 +1,2 @@
+target_sources(tavrin_core PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/AudioTagReader.cpp)
