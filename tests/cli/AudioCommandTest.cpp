@@ -1,8 +1,6 @@
 #include "CliRunner.h"
 #include "core/metadata/AudioFiles.h"
-#include "support/TempTree.h"
 
-#include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
 
@@ -18,13 +16,11 @@ QString q(const char* utf8)
     return QString::fromUtf8(utf8);
 }
 
-// A folder of tagged MP3 files and a support folder of its own.
-class AudioCommandTest : public ::testing::Test {
+// A folder of tagged MP3 files and a note.
+class AudioCommandTest : public test::CliTest {
 protected:
     AudioCommandTest()
     {
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), tree.path(QStringLiteral("data")));
-        environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
         test::writeTaggedAudio(tree, q("music/01.mp3"), AudioFormat::Mp3, { { q("Abba") }, q("Waterloo") });
         test::writeTaggedAudio(tree, q("music/02.mp3"), AudioFormat::Mp3, { { q("Björk") }, q("東京") });
         test::writeTaggedAudio(tree, q("music/03.MP3"), AudioFormat::Mp3, { {}, q("No Artist") });
@@ -33,19 +29,13 @@ protected:
 
     CliRun run(const char* command, const QStringList& options)
     {
-        QStringList arguments { q(command), QStringLiteral("--recursive"), QStringLiteral("--tab"), QStringLiteral("audio") };
-        arguments << options << tree.path(q("music"));
-        return test::runCli(arguments, QString(), environment);
+        return CliTest::run(QStringList { q(command) } + test::args("--recursive --tab audio") + options
+            + QStringList { tree.path(q("music")) });
     }
-
-    test::TempTree tree;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
 };
 
-const QStringList kArtistDashTitle { QStringLiteral("--set"),
-    QStringLiteral("id3RenamingTagsList=<Artist>,<Title>"), QStringLiteral("--set"),
-    QStringLiteral("isID3RenamingSeperator=1"), QStringLiteral("--set"),
-    QStringLiteral("id3RenamingSeperator= - ") };
+const QStringList kArtistDashTitle
+    = test::args("--set id3RenamingTagsList=<Artist>,<Title> --set isID3RenamingSeperator=1 --set") << q("id3RenamingSeperator= - ");
 
 TEST_F(AudioCommandTest, AFolderOfTaggedFilesPreviewsAndAppliesAsArtistDashTitle)
 {
@@ -56,7 +46,7 @@ TEST_F(AudioCommandTest, AFolderOfTaggedFilesPreviewsAndAppliesAsArtistDashTitle
           "notes.txt\tNo Changes\nNew names: 3, No Changes: 1\n"));
     EXPECT_TRUE(tree.exists(q("music/01.mp3")));
 
-    const CliRun apply = run("apply", kArtistDashTitle + QStringList { QStringLiteral("--yes") });
+    const CliRun apply = run("apply", kArtistDashTitle + test::args("--yes"));
     ASSERT_EQ(apply.exitCode, 0) << apply.err.toStdString();
     EXPECT_EQ(QDir(tree.path(q("music"))).entryList(QDir::Files, QDir::Name),
         QStringList({ q("Abba - Waterloo.mp3"), q("Björk - 東京.mp3"), q("No Artist.MP3"), q("notes.txt") }));
@@ -69,16 +59,12 @@ TEST_F(AudioCommandTest, ListsAndTheMaskAreSetByKey)
         QStringList options;
         const char* firstLine;
     } rows[] = {
-        { "the mask follows the list",
-            { QStringLiteral("--set"), QStringLiteral("id3RenamingTagsList=<Title>,<Artist>") },
+        { "the mask follows the list", test::args("--set id3RenamingTagsList=<Title>,<Artist>"),
             "01.mp3\tWaterlooAbba.mp3" },
         { "a mask set after the list",
-            { QStringLiteral("--set"), QStringLiteral("id3RenamingTagsList=<Title>"), QStringLiteral("--set"),
-                QStringLiteral("id3RenamingMask=<Title> (<Artist>)") },
+            test::args("--set id3RenamingTagsList=<Title> --set") << q("id3RenamingMask=<Title> (<Artist>)"),
             "01.mp3\tWaterloo (Abba).mp3" },
-        { "extensions that leave out MP3",
-            kArtistDashTitle
-                + QStringList { QStringLiteral("--set"), QStringLiteral("id3Extensions=.FLAC,.M4A") },
+        { "extensions that leave out MP3", kArtistDashTitle + test::args("--set id3Extensions=.FLAC,.M4A"),
             "01.mp3\tNo Changes" },
     };
     for (const auto& row : rows) {
@@ -98,9 +84,7 @@ TEST_F(AudioCommandTest, FailuresHaveTheirExitStatus)
     // The run answers the outcome of its last item, so the folder holds audio files only.
     ASSERT_TRUE(QFile::remove(tree.path(q("music/notes.txt"))));
     const CliRun unknown = run("preview",
-        { QStringLiteral("--set"), QStringLiteral("id3RenamingTagsList=<Title>,<Mood>"),
-            QStringLiteral("--set"), QStringLiteral("isID3RenamingSeperator=1"), QStringLiteral("--set"),
-            QStringLiteral("id3RenamingSeperator=_") });
+        test::args("--set id3RenamingTagsList=<Title>,<Mood> --set isID3RenamingSeperator=1 --set id3RenamingSeperator=_"));
     EXPECT_EQ(unknown.exitCode, 1);
     EXPECT_TRUE(unknown.err.contains(QLatin1String("<Mood>"))) << unknown.err.toStdString();
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "support/TempTree.h"
+
+#include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -38,5 +41,29 @@ inline QJsonObject parseJson(const CliRun& run)
     EXPECT_EQ(error.error, QJsonParseError::NoError) << run.out.toStdString() << run.err.toStdString();
     return document.object();
 }
+
+// A command line written as one text, split at its spaces: args("apply --yes --json").
+inline QStringList args(const char* line)
+{
+    return QString::fromUtf8(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+// Each test has a support folder of its own, so the logs it finds are its own, and reads the
+// program's messages in English.
+class CliTest : public ::testing::Test {
+protected:
+    CliTest()
+    {
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), tree.path(QStringLiteral("data")));
+        environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
+    }
+
+    CliRun run(const QStringList& arguments) const { return runCli(arguments, QString(), environment); }
+    QString logFolder() const { return tree.path(QStringLiteral("data/Palisade Soft/Tavrin3/Logs")); }
+    QStringList logs() const { return QDir(logFolder()).entryList(QDir::Files); }
+
+    TempTree tree;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+};
 
 }  // namespace tavrin::test

@@ -10,7 +10,6 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 using namespace tavrin;
 using tavrin::test::CliRun;
@@ -21,28 +20,6 @@ namespace {
 
 using test::str;
 using test::strs;
-
-// QTemporaryDir removes a tree through QString names and cannot reach a name that is not
-// UTF-8, so such entries are taken away by their bytes before the tree goes.
-class RawEntries {
-public:
-    RawEntries() = default;
-    RawEntries(const RawEntries&) = delete;
-    RawEntries& operator=(const RawEntries&) = delete;
-    ~RawEntries()
-    {
-        for (const QByteArray& path : m_files)
-            ::unlink(path.constData());
-    }
-
-    void file(test::TempTree& tree, const char* folder, const QByteArray& rawName)
-    {
-        m_files.append(tree.rawFile(QString::fromUtf8(folder), rawName));
-    }
-
-private:
-    QList<QByteArray> m_files;
-};
 
 class ListCommand : public ::testing::Test {
 protected:
@@ -147,8 +124,7 @@ TEST_F(ListCommand, NamesSortNumericallyWithoutCaseAlsoInTheCLocale)
 
 TEST_F(ListCommand, NamesThatAreNotUtf8AreReportedAsSkipped)
 {
-    RawEntries raw;
-    raw.file(tree, "raw", QByteArray("caf\xe9.txt"));
+    tree.rawFile(str("raw"), QByteArray("caf\xe9.txt"));
     tree.file(str("raw/ok.txt"));
     const CliRun json = runCli({ str("list"), str("--json"), str("--recursive"), at("raw") });
     ASSERT_EQ(json.exitCode, 0) << json.err.toStdString();

@@ -1,243 +1,170 @@
-#include "support/TempTree.h"
 #include "CliRunner.h"
 
-#include <QDir>
 #include <QJsonArray>
 #include <gtest/gtest.h>
 
 using namespace tavrin;
+using namespace Qt::StringLiterals;
+using test::args;
 using test::CliRun;
 using test::parseJson;
-using test::runCli;
 
 namespace {
 
-const QStringList kUpperCase = {QStringLiteral("--tab"), QStringLiteral("general"), QStringLiteral("--set"),
-                                QStringLiteral("generalOptionIndex=0"), QStringLiteral("--set"),
-                                QStringLiteral("generalFileNameCase=1")};
-
-// A folder of files and a support folder of its own, so logs land where the test looks.
-class RenameCommandTest : public ::testing::Test {
+// The general tab's upper-case conversion, over the test's folder "d".
+class RenameCommandTest : public test::CliTest {
 protected:
-    RenameCommandTest()
+    CliRun rename(const char* command, const QStringList& options = args("--tab general --set generalFileNameCase=1"))
     {
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), tree.path(QStringLiteral("data")));
-        environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
+        return run(QStringList{QString::fromUtf8(command), u"--recursive"_s} + options + QStringList{tree.path(u"d"_s)});
     }
-
-    CliRun run(const QString& command, const QStringList& options, const QStringList& paths = {})
-    {
-        QStringList arguments{command};
-        arguments << options;
-        arguments << (paths.isEmpty() ? QStringList{tree.path(QStringLiteral("d"))} : paths);
-        return runCli(arguments, QString(), environment);
-    }
-
-    QString logFolder() const { return tree.path(QStringLiteral("data/Palisade Soft/Tavrin3/Logs")); }
-    QStringList logs() const { return QDir(logFolder()).entryList(QDir::Files); }
-
-    test::TempTree tree;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
 };
 
 TEST_F(RenameCommandTest, PreviewShowsNewNamesAndStatusesWithoutRenaming)
 {
-    tree.file(QStringLiteral("d/alpha.txt"));
-    tree.file(QStringLiteral("d/BETA.txt"));
-    const CliRun preview = run(QStringLiteral("preview"), QStringList{QStringLiteral("--recursive")} + kUpperCase);
-
+    tree.file(u"d/alpha.txt"_s);
+    tree.file(u"d/BETA.txt"_s);
+    const CliRun preview = rename("preview");
     EXPECT_EQ(preview.exitCode, 0) << preview.err.toStdString();
-    EXPECT_EQ(preview.out, QStringLiteral("alpha.txt\tALPHA.txt\nBETA.txt\tNo Changes\nNew names: 1, No Changes: 1\n"));
-    EXPECT_TRUE(tree.exists(QStringLiteral("d/alpha.txt")));
+    EXPECT_EQ(preview.out, u"alpha.txt\tALPHA.txt\nBETA.txt\tNo Changes\nNew names: 1, No Changes: 1\n"_s);
+    EXPECT_TRUE(tree.exists(u"d/alpha.txt"_s));
     EXPECT_TRUE(logs().isEmpty());
 }
 
 TEST_F(RenameCommandTest, ApplyRenamesLogsAndReportsInJson)
 {
-    tree.file(QStringLiteral("d/alpha.txt"), "a");
-    tree.file(QStringLiteral("d/re:port.txt"), "r");
-    const CliRun apply = run(QStringLiteral("apply"),
-                             QStringList{QStringLiteral("--recursive"), QStringLiteral("--yes"),
-                                         QStringLiteral("--json")}
-                                 + kUpperCase);
-
+    tree.file(u"d/alpha.txt"_s, "a");
+    tree.file(u"d/re:port.txt"_s, "r");
+    const CliRun apply = rename("apply", args("--yes --json --tab general --set generalFileNameCase=1"));
     ASSERT_EQ(apply.exitCode, 0) << apply.err.toStdString();
     const QJsonObject root = parseJson(apply);
-    EXPECT_EQ(root.value(QStringLiteral("renamed")).toInt(), 2);
-    const QJsonArray items = root.value(QStringLiteral("items")).toArray();
+    EXPECT_EQ(root.value("renamed"_L1).toInt(), 2);
+    const QJsonArray items = root.value("items"_L1).toArray();
     ASSERT_EQ(items.size(), 2);
-    EXPECT_EQ(items[0].toObject().value(QStringLiteral("newFilename")).toString(), QStringLiteral("Renaming (OK)"));
-    EXPECT_EQ(items[1].toObject().value(QStringLiteral("fileWithPath")).toString(),
-              tree.path(QStringLiteral("d/RE:PORT.txt")));
-    EXPECT_EQ(tree.read(QStringLiteral("d/ALPHA.txt")), QByteArray("a"));
-    EXPECT_EQ(tree.read(QStringLiteral("d/RE:PORT.txt")), QByteArray("r"));
+    EXPECT_EQ(items[0].toObject().value("newFilename"_L1).toString(), u"Renaming (OK)"_s);
+    EXPECT_EQ(items[1].toObject().value("fileWithPath"_L1).toString(), tree.path(u"d/RE:PORT.txt"_s));
+    EXPECT_EQ(tree.read(u"d/ALPHA.txt"_s), QByteArray("a"));
+    EXPECT_EQ(tree.read(u"d/RE:PORT.txt"_s), QByteArray("r"));
 
     ASSERT_EQ(logs().size(), 1);
-    EXPECT_TRUE(logs().first().endsWith(QStringLiteral("-2.xml")));
-    EXPECT_EQ(root.value(QStringLiteral("log")).toString(), QDir(logFolder()).filePath(logs().first()));
+    EXPECT_TRUE(logs().first().endsWith(u"-2.xml"_s));
+    EXPECT_EQ(root.value("log"_L1).toString(), QDir(logFolder()).filePath(logs().first()));
     // The log shows the colon of the stored name as the slash the user sees.
-    const QByteArray log = tree.read(QStringLiteral("data/Palisade Soft/Tavrin3/Logs/") + logs().first());
+    const QByteArray log = tree.read(u"data/Palisade Soft/Tavrin3/Logs/"_s + logs().first());
     EXPECT_TRUE(log.contains("srcfilename=\"re/port.txt\" tarfilename=\"RE/PORT.txt\"")) << log.constData();
 }
 
-TEST_F(RenameCommandTest, ApplyWithoutATerminalNeedsYes)
+TEST_F(RenameCommandTest, ApplyNeedsYesOrALogItCanWrite)
 {
-    tree.file(QStringLiteral("d/alpha.txt"));
-    const CliRun apply = run(QStringLiteral("apply"), QStringList{QStringLiteral("--recursive")} + kUpperCase);
-    EXPECT_EQ(apply.exitCode, 2);
-    EXPECT_TRUE(apply.out.isEmpty());
-    EXPECT_TRUE(apply.err.contains(QStringLiteral("--yes")));
-    EXPECT_TRUE(tree.exists(QStringLiteral("d/alpha.txt")));
+    tree.file(u"d/alpha.txt"_s);
+    // The preferred log folder lies under a file: no log can be made there.
+    tree.file(u"data/Palisade Soft/Tavrin3/preferences.plist"_s,
+              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict><key>defaultLogFolderPath</key>"
+              "<string>" + tree.file(u"blocker"_s).toUtf8() + "/Logs</string></dict></plist>\n");
+    const CliRun unconfirmed = rename("apply");
+    EXPECT_EQ(unconfirmed.exitCode, 2);
+    EXPECT_TRUE(unconfirmed.out.isEmpty());
+    EXPECT_TRUE(unconfirmed.err.contains(u"--yes"_s));
+
+    const QStringList options = args("--yes --tab general --set generalFileNameCase=1");
+    const CliRun noLog = rename("apply", options);
+    EXPECT_EQ(noLog.exitCode, 1) << noLog.err.toStdString();
+    EXPECT_TRUE(noLog.err.contains(u"--continue-without-log"_s));
+    EXPECT_TRUE(tree.exists(u"d/alpha.txt"_s));
+
+    const CliRun goOn = rename("apply", options + args("--continue-without-log"));
+    EXPECT_EQ(goOn.exitCode, 0) << goOn.err.toStdString();
+    EXPECT_TRUE(tree.exists(u"d/ALPHA.txt"_s));
 }
 
 TEST_F(RenameCommandTest, FolderModeRenamesNestedFoldersInOneBatch)
 {
-    tree.file(QStringLiteral("d/one/two/three/file.txt"), "f");
-    const CliRun apply = run(QStringLiteral("apply"),
-                             QStringList{QStringLiteral("--folders"), QStringLiteral("--recursive"),
-                                         QStringLiteral("--yes"), QStringLiteral("--json")}
-                                 + kUpperCase);
+    tree.file(u"d/one/two/three/file.txt"_s, "f");
+    const CliRun apply = rename("apply", args("--folders --yes --json --tab general --set generalFileNameCase=1"));
     ASSERT_EQ(apply.exitCode, 0) << apply.err.toStdString();
-    EXPECT_EQ(parseJson(apply).value(QStringLiteral("renamed")).toInt(), 3);
-    EXPECT_EQ(tree.read(QStringLiteral("d/ONE/TWO/THREE/file.txt")), QByteArray("f"));
-}
-
-TEST_F(RenameCommandTest, ALogThatCannotBeWrittenStopsTheBatchUnlessToldToGoOn)
-{
-    tree.file(QStringLiteral("d/alpha.txt"));
-    // A file where the log folder belongs: the support folder cannot hold logs.
-    tree.file(QStringLiteral("data/Palisade Soft/Tavrin3/Logs"));
-    const QStringList options = QStringList{QStringLiteral("--recursive"), QStringLiteral("--yes")} + kUpperCase;
-
-    const CliRun refused = run(QStringLiteral("apply"), options);
-    EXPECT_NE(refused.exitCode, 0);
-    EXPECT_TRUE(tree.exists(QStringLiteral("d/alpha.txt")));
-
-    environment.insert(QStringLiteral("XDG_DATA_HOME"), tree.folder(QStringLiteral("data2")));
-    tree.file(QStringLiteral("data2/Palisade Soft/Tavrin3/preferences.plist"),
-              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
-              "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n<plist version=\"1.0\"><dict>"
-              "<key>defaultLogFolderPath</key><string>"
-                  + tree.file(QStringLiteral("blocker")).toUtf8()
-                  + "/Logs</string></dict></plist>\n");
-    const CliRun noLog = run(QStringLiteral("apply"), options);
-    EXPECT_EQ(noLog.exitCode, 1) << noLog.err.toStdString();
-    EXPECT_TRUE(tree.exists(QStringLiteral("d/alpha.txt")));
-    EXPECT_TRUE(noLog.err.contains(QStringLiteral("--continue-without-log")));
-
-    const CliRun goOn = run(QStringLiteral("apply"), options + QStringList{QStringLiteral("--continue-without-log")});
-    EXPECT_EQ(goOn.exitCode, 0) << goOn.err.toStdString();
-    EXPECT_TRUE(tree.exists(QStringLiteral("d/ALPHA.txt")));
+    EXPECT_EQ(parseJson(apply).value("renamed"_L1).toInt(), 3);
+    EXPECT_EQ(tree.read(u"d/ONE/TWO/THREE/file.txt"_s), QByteArray("f"));
 }
 
 TEST_F(RenameCommandTest, InvalidOptionsAreRefusedWithTheirMessage)
 {
-    tree.file(QStringLiteral("d/alpha.txt"));
-    struct Row {
-        QStringList options;
+    tree.file(u"d/alpha.txt"_s);
+    const struct {
+        const char* options;
         const char* expected;
+    } rows[] = {
+        {"--tab general --set generalOptionIndex=8", "Missing Input"},
+        {"--tab twelve", "unknown tab"},
+        {"--set noSuchOption=1", "noSuchOption"},
+        {"--set generalOptionIndex=40", "generalOptionIndex"},
+        {"--set novalue", "KEY=VALUE"},
+        {"--tab replaceremove", "Nothing to Find"},
     };
-    const Row rows[] = {
-        {{QStringLiteral("--tab"), QStringLiteral("general"), QStringLiteral("--set"),
-          QStringLiteral("generalOptionIndex=8")},
-         "Missing Input"},
-        {{QStringLiteral("--tab"), QStringLiteral("twelve")}, "unknown tab"},
-        {{QStringLiteral("--set"), QStringLiteral("noSuchOption=1")}, "noSuchOption"},
-        {{QStringLiteral("--set"), QStringLiteral("generalOptionIndex=40")}, "generalOptionIndex"},
-        {{QStringLiteral("--set"), QStringLiteral("novalue")}, "KEY=VALUE"},
-    };
-    for (const Row& row : rows) {
-        const CliRun preview = run(QStringLiteral("preview"), row.options);
-        EXPECT_EQ(preview.exitCode, 2) << row.expected;
+    for (const auto& row : rows) {
+        const CliRun preview = rename("preview", args(row.options));
+        EXPECT_EQ(preview.exitCode, 2) << row.options;
         EXPECT_TRUE(preview.err.contains(QString::fromUtf8(row.expected))) << preview.err.toStdString();
     }
 }
 
 TEST_F(RenameCommandTest, ATakenNameIsReportedAndLeftAlone)
 {
-    tree.file(QStringLiteral("d/a.txt"), "mine");
-    tree.file(QStringLiteral("d/a.md"), "theirs");
-    const CliRun apply = run(QStringLiteral("apply"),
-                             {QStringLiteral("--recursive"), QStringLiteral("--yes"), QStringLiteral("--tab"),
-                              QStringLiteral("general"), QStringLiteral("--set"),
-                              QStringLiteral("generalOptionIndex=3"), QStringLiteral("--set"),
-                              QStringLiteral("generalChangeExtension=md")});
-    // a.md is taken by another file: a.txt keeps its name and a.md its content.
+    tree.file(u"d/a.txt"_s, "mine");
+    tree.file(u"d/a.md"_s, "theirs");
+    const CliRun apply
+        = rename("apply", args("--yes --tab general --set generalOptionIndex=3 --set generalChangeExtension=md"));
     EXPECT_EQ(apply.exitCode, 0) << apply.out.toStdString();
-    EXPECT_TRUE(apply.out.contains(QStringLiteral("a.txt\tFile Already Exists")));
-    EXPECT_EQ(tree.read(QStringLiteral("d/a.md")), QByteArray("theirs"));
+    EXPECT_TRUE(apply.out.contains(u"a.txt\tFile Already Exists"_s));
+    EXPECT_EQ(tree.read(u"d/a.md"_s), QByteArray("theirs"));
 }
 
 // Scripts read "renamed" and "log" after every apply, also when nothing could be applied:
 // each of the two files proposes the other's name, so both are refused.
 TEST_F(RenameCommandTest, ApplyJsonCarriesEveryKeyWhenNothingWasApplied)
 {
-    tree.file(QStringLiteral("d/a-b.txt"), "1");
-    tree.file(QStringLiteral("d/b-a.txt"), "2");
-    const CliRun apply = run(QStringLiteral("apply"),
-                             {QStringLiteral("--recursive"), QStringLiteral("--yes"), QStringLiteral("--json"),
-                              QStringLiteral("--tab"), QStringLiteral("general"), QStringLiteral("--set"),
-                              QStringLiteral("generalOptionIndex=6"), QStringLiteral("--set"),
-                              QStringLiteral("generalSwapSeperator=-")});
+    tree.file(u"d/a-b.txt"_s, "1");
+    tree.file(u"d/b-a.txt"_s, "2");
+    const CliRun apply
+        = rename("apply", args("--yes --json --tab general --set generalOptionIndex=6 --set generalSwapSeperator=-"));
     const QJsonObject root = parseJson(apply);
-    ASSERT_TRUE(root.contains(QStringLiteral("renamed"))) << apply.out.toStdString();
-    ASSERT_TRUE(root.contains(QStringLiteral("log")));
-    EXPECT_EQ(root.value(QStringLiteral("renamed")).toInt(-1), 0);
-    EXPECT_TRUE(root.value(QStringLiteral("log")).isNull());
+    ASSERT_TRUE(root.contains("renamed"_L1) && root.contains("log"_L1)) << apply.out.toStdString();
+    EXPECT_EQ(root.value("renamed"_L1).toInt(-1), 0);
+    EXPECT_TRUE(root.value("log"_L1).isNull());
     EXPECT_TRUE(logs().isEmpty());
-
-    const CliRun preview = run(QStringLiteral("preview"), {QStringLiteral("--recursive"), QStringLiteral("--json")});
-    EXPECT_FALSE(parseJson(preview).contains(QStringLiteral("renamed"))) << "preview keeps its keys";
+    EXPECT_FALSE(parseJson(rename("preview", args("--json"))).contains("renamed"_L1)) << "preview keeps its keys";
 }
 
 TEST_F(RenameCommandTest, PreviewJsonMarksProposalsThatCollide)
 {
-    tree.file(QStringLiteral("d/a-1.txt"));
-    tree.file(QStringLiteral("d/a-2.txt"));
-    tree.file(QStringLiteral("d/b.txt"));
-    const CliRun preview = run(QStringLiteral("preview"),
-                               {QStringLiteral("--recursive"), QStringLiteral("--json"), QStringLiteral("--tab"),
-                                QStringLiteral("general"), QStringLiteral("--set"),
-                                QStringLiteral("generalOptionIndex=8"), QStringLiteral("--set"),
-                                QStringLiteral("generalRemoveAfterString=-")});
+    for (const char* name : {"d/a-1.txt", "d/a-2.txt", "d/b.txt"})
+        tree.file(QString::fromUtf8(name));
+    const CliRun preview = rename(
+        "preview", args("--json --tab general --set generalOptionIndex=8 --set generalRemoveAfterString=-"));
     const QJsonObject root = parseJson(preview);
-    EXPECT_EQ(root.value(QStringLiteral("conflicts")).toInt(-1), 2) << preview.out.toStdString();
+    EXPECT_EQ(root.value("conflicts"_L1).toInt(-1), 2) << preview.out.toStdString();
     QStringList marked;
-    for (const QJsonValue& item : root.value(QStringLiteral("items")).toArray()) {
-        if (item.toObject().value(QStringLiteral("conflict")).toBool())
-            marked << item.toObject().value(QStringLiteral("filenameWithExtension")).toString();
+    for (const QJsonValue& item : root.value("items"_L1).toArray()) {
+        if (item.toObject().value("conflict"_L1).toBool())
+            marked << item.toObject().value("filenameWithExtension"_L1).toString();
     }
-    EXPECT_EQ(marked, (QStringList{QStringLiteral("a-1.txt"), QStringLiteral("a-2.txt")}));
-    EXPECT_TRUE(preview.err.contains(QStringLiteral("Conflicts: 2"))) << preview.err.toStdString();
+    EXPECT_EQ(marked, (QStringList{u"a-1.txt"_s, u"a-2.txt"_s}));
+    EXPECT_TRUE(preview.err.contains(u"Conflicts: 2"_s)) << preview.err.toStdString();
 }
 
 TEST_F(RenameCommandTest, PreviewReplacesByTheOptionsOfTheReplaceRemoveTab)
 {
-    tree.file(QStringLiteral("d/a-b-c.txt"));
-    tree.file(QStringLiteral("d/plain.txt"));
-    const QStringList replaceAll = {QStringLiteral("--recursive"), QStringLiteral("--tab"),
-                                    QStringLiteral("replaceremove"), QStringLiteral("--set"),
-                                    QStringLiteral("replaceRemoveThis=-"), QStringLiteral("--set"),
-                                    QStringLiteral("replaceRemoveWith=_"), QStringLiteral("--set"),
-                                    QStringLiteral("isReplaceRemoveAllOccurrence=1")};
-
-    const CliRun preview = run(QStringLiteral("preview"), replaceAll);
+    tree.file(u"d/a-b-c.txt"_s);
+    tree.file(u"d/plain.txt"_s);
+    const QStringList replaceAll = args(
+        "--tab replaceremove --set replaceRemoveThis=- --set replaceRemoveWith=_ --set isReplaceRemoveAllOccurrence=1");
+    const CliRun preview = rename("preview", replaceAll);
     EXPECT_EQ(preview.exitCode, 0) << preview.err.toStdString();
-    EXPECT_EQ(preview.out,
-              QStringLiteral("a-b-c.txt\ta_b_c.txt\nplain.txt\tNo Changes\nNew names: 1, No Changes: 1\n"));
+    EXPECT_EQ(preview.out, u"a-b-c.txt\ta_b_c.txt\nplain.txt\tNo Changes\nNew names: 1, No Changes: 1\n"_s);
 
     // From the end, the last occurrence is the first one found.
-    const QStringList fromEndOnce = {QStringLiteral("--set"), QStringLiteral("isReplaceRemoveAllOccurrence=0"),
-                                     QStringLiteral("--set"), QStringLiteral("replaceRemovePositionDirection=1")};
-    const CliRun fromEnd = run(QStringLiteral("preview"), replaceAll + fromEndOnce);
-    EXPECT_EQ(fromEnd.exitCode, 0) << fromEnd.err.toStdString();
-    EXPECT_TRUE(fromEnd.out.startsWith(QStringLiteral("a-b-c.txt\ta-b_c.txt\n"))) << fromEnd.out.toStdString();
-
-    const CliRun missing = run(QStringLiteral("preview"),
-                               {QStringLiteral("--recursive"), QStringLiteral("--tab"),
-                                QStringLiteral("replaceremove")});
-    EXPECT_EQ(missing.exitCode, 2);
-    EXPECT_TRUE(missing.err.contains(QStringLiteral("Nothing to Find"))) << missing.err.toStdString();
+    const CliRun fromEnd = rename(
+        "preview", replaceAll + args("--set isReplaceRemoveAllOccurrence=0 --set replaceRemovePositionDirection=1"));
+    EXPECT_TRUE(fromEnd.out.startsWith(u"a-b-c.txt\ta-b_c.txt\n"_s)) << fromEnd.out.toStdString();
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include <QDir>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace tavrin;
 
@@ -36,40 +35,6 @@ constexpr ScanOptions kFilesDeep { false, true, false };
 constexpr ScanOptions kFolders { true, false, false };
 constexpr ScanOptions kFoldersDeep { true, true, false };
 
-// QTemporaryDir removes a tree through QString names and cannot reach a name that is not
-// UTF-8, so such entries are taken away by their bytes before the tree goes.
-class RawEntries {
-public:
-    RawEntries() = default;
-    RawEntries(const RawEntries&) = delete;
-    RawEntries& operator=(const RawEntries&) = delete;
-    ~RawEntries()
-    {
-        for (const QByteArray& path : m_files)
-            ::unlink(path.constData());
-        for (const QByteArray& path : m_folders)
-            ::rmdir(path.constData());
-    }
-
-    void file(test::TempTree& tree, const char* folder, const QByteArray& rawName)
-    {
-        m_files.append(tree.rawFile(QString::fromUtf8(folder), rawName));
-    }
-
-    bool folder(const QString& parent, const QByteArray& rawName)
-    {
-        const QByteArray path = QFile::encodeName(parent) + '/' + rawName;
-        if (::mkdir(path.constData(), 0755) != 0)
-            return false;
-        m_folders.append(path);
-        return true;
-    }
-
-private:
-    QList<QByteArray> m_files;
-    QList<QByteArray> m_folders;
-};
-
 class FileListScan : public ::testing::Test {
 protected:
     // photos/File9.jpg, photos/file10.jpg, photos/b.txt, photos/.thumbs.db,
@@ -88,33 +53,44 @@ protected:
     FileList list;
 };
 
-TEST_F(FileListScan, FilesModeWithSubFoldersListsFilesDepthFirstInFilesOrder)
+struct ScanRow {
+    const char* name;
+    std::vector<const char*> chosen;
+    ScanOptions options;
+    QStringList expected;
+};
+
+TEST_F(FileListScan, EachModeListsWhatItShouldInOrder)
 {
-    const ScanResult result = scan(list, { at("photos") }, kFilesDeep);
-    EXPECT_EQ(relativeRows(list, tree),
-        strs({ "photos/Album/z.jpg", "photos/b.txt", "photos/File9.jpg", "photos/file10.jpg",
-            "photos/trip/day2/y.jpg", "photos/trip/x.jpg" }));
-    EXPECT_EQ(result.added, 6);
-    EXPECT_FALSE(result.cancelled);
-    EXPECT_TRUE(result.skipped.isEmpty());
-    for (const FileSystemItem& item : list.items()) {
-        EXPECT_EQ(item.itemType(), ItemType::File) << item.fullPath().toStdString();
-        EXPECT_EQ(item.newFilename(), QString()) << item.fullPath().toStdString();
+    const ScanRow rows[] = {
+        { "files with sub-folders, depth first in file-manager order", { "photos" }, kFilesDeep,
+            strs({ "photos/Album/z.jpg", "photos/b.txt", "photos/File9.jpg", "photos/file10.jpg",
+                "photos/trip/day2/y.jpg", "photos/trip/x.jpg" }) },
+        { "files without sub-folders skip every folder", { "photos", "photos/b.txt", "photos/trip" }, kFiles,
+            strs({ "photos/b.txt" }) },
+        { "chosen paths keep their order", { "photos/trip", "photos/b.txt", "photos/Album" }, kFilesDeep,
+            strs({ "photos/trip/day2/y.jpg", "photos/trip/x.jpg", "photos/b.txt", "photos/Album/z.jpg" }) },
+        { "folders before their sub-folders, without the chosen ones", { "photos" }, kFoldersDeep,
+            strs({ "photos/Album", "photos/trip", "photos/trip/day1", "photos/trip/day2" }) },
+        { "folders without sub-folders: the chosen ones, no files",
+            { "photos/trip", "photos/b.txt", "photos/Album" }, kFolders, strs({ "photos/trip", "photos/Album" }) },
+    };
+    tree.folder(str("photos/trip/day1"));
+    for (const ScanRow& row : rows) {
+        FileList scanned;
+        QStringList paths;
+        for (const char* chosen : row.chosen)
+            paths.append(at(chosen));
+        const ScanResult result = scan(scanned, paths, row.options);
+        EXPECT_EQ(relativeRows(scanned, tree), row.expected) << row.name;
+        EXPECT_EQ(result.added, row.expected.size()) << row.name;
+        EXPECT_FALSE(result.cancelled);
+        EXPECT_TRUE(result.skipped.isEmpty());
+        for (const FileSystemItem& item : scanned.items()) {
+            EXPECT_EQ(item.fileType(), str(row.options.folders ? "FOLDER" : "FILE")) << row.name;
+            EXPECT_EQ(item.newFilename(), QString()) << row.name;
+        }
     }
-}
-
-TEST_F(FileListScan, FilesModeWithoutSubFoldersSkipsEveryFolder)
-{
-    const ScanResult result = scan(list, { at("photos"), at("photos/b.txt"), at("photos/trip") }, kFiles);
-    EXPECT_EQ(relativeRows(list, tree), strs({ "photos/b.txt" }));
-    EXPECT_EQ(result.added, 1);
-}
-
-TEST_F(FileListScan, ChosenPathsKeepTheirOrderAndAreVisitedEachInTurn)
-{
-    scan(list, { at("photos/trip"), at("photos/b.txt"), at("photos/Album") }, kFilesDeep);
-    EXPECT_EQ(relativeRows(list, tree),
-        strs({ "photos/trip/day2/y.jpg", "photos/trip/x.jpg", "photos/b.txt", "photos/Album/z.jpg" }));
 }
 
 TEST_F(FileListScan, HiddenItemsAreNeitherListedNorDescendedInto)
@@ -146,26 +122,6 @@ TEST_F(FileListScan, DuplicatesAreListedOnce)
     EXPECT_EQ(second.added, 1);
     EXPECT_EQ(
         relativeRows(list, tree), strs({ "photos/b.txt", "photos/trip/x.jpg", "photos/trip/day2/y.jpg" }));
-}
-
-TEST_F(FileListScan, FolderModeListsFoldersBeforeTheirSubFoldersWithoutTheChosenOnes)
-{
-    tree.folder(str("photos/trip/day1"));
-    const ScanResult result = scan(list, { at("photos") }, kFoldersDeep);
-    EXPECT_EQ(relativeRows(list, tree),
-        strs({ "photos/Album", "photos/trip", "photos/trip/day1", "photos/trip/day2" }));
-    EXPECT_EQ(result.added, 4);
-    EXPECT_FALSE(list.containsPath(at("photos")));
-    for (const FileSystemItem& item : list.items())
-        EXPECT_EQ(item.fileType(), str("FOLDER"));
-}
-
-TEST_F(FileListScan, FolderModeWithoutSubFoldersListsTheChosenFoldersAndNoFiles)
-{
-    const ScanResult result
-        = scan(list, { at("photos/trip"), at("photos/b.txt"), at("photos/Album") }, kFolders);
-    EXPECT_EQ(relativeRows(list, tree), strs({ "photos/trip", "photos/Album" }));
-    EXPECT_EQ(result.added, 2);
 }
 
 TEST_F(FileListScan, TopFolderListedEarlierLeavesTheListWhenChosenWithSubFolders)
@@ -214,11 +170,10 @@ TEST_F(FileListScan, FolderModeSkipsLinksToFolders)
 
 TEST_F(FileListScan, NamesThatAreNotUtf8AreReportedAndNeverListed)
 {
-    RawEntries raw;
-    raw.file(tree, "raw", QByteArray("bad\xff.txt"));
-    raw.file(tree, "raw", QByteArray(".hidden\xfe"));
+    tree.rawFile(str("raw"), QByteArray("bad\xff.txt"));
+    tree.rawFile(str("raw"), QByteArray(".hidden\xfe"));
     tree.file(str("raw/good.txt"));
-    ASSERT_TRUE(raw.folder(at("raw"), QByteArray("dir\xe9")));
+    ASSERT_EQ(::mkdir((QFile::encodeName(at("raw")) + "/dir\xe9").constData(), 0755), 0);
 
     const ScanResult result = scan(list, { at("raw") }, kFilesDeep);
     EXPECT_EQ(relativeRows(list, tree), strs({ "raw/good.txt" }));
@@ -257,60 +212,50 @@ TEST_F(FileListScan, RenameFromFileTabStartsNewRecordsAsNoChanges)
     EXPECT_EQ(list.at(1).newFilename(), str(status::NoChanges));
 }
 
-class CancelOnFirstReport : public ProgressObserver {
+// Records every report and, when asked to, cancels the scan at the first one.
+class RecordingObserver : public ProgressObserver {
 public:
-    explicit CancelOnFirstReport(std::atomic_bool& cancel)
+    explicit RecordingObserver(std::atomic_bool* cancel = nullptr)
         : m_cancel(cancel)
     {
     }
     void progress(const Progress& progress) override
     {
-        m_cancel = true;
+        if (m_cancel)
+            *m_cancel = true;
         reports.push_back(progress);
     }
     std::vector<Progress> reports;
 
 private:
-    std::atomic_bool& m_cancel;
+    std::atomic_bool* m_cancel;
 };
 
-TEST_F(FileListScan, CancelSetBeforeTheScanAddsNothing)
-{
-    const std::atomic_bool cancel = true;
-    const ScanResult result = list.addFiles({ at("photos"), at("photos/b.txt") }, kFilesDeep, cancel);
-    EXPECT_TRUE(result.cancelled);
-    EXPECT_EQ(result.added, 0);
-    EXPECT_TRUE(list.isEmpty());
-}
-
-TEST_F(FileListScan, CancelDuringTheScanKeepsWhatWasFound)
-{
-    std::atomic_bool cancel = false;
-    CancelOnFirstReport observer(cancel);
-    const ScanResult result
-        = list.addFiles({ at("photos/b.txt"), at("photos/File9.jpg") }, kFiles, cancel, &observer);
-    EXPECT_TRUE(result.cancelled);
-    EXPECT_EQ(result.added, 1);
-    EXPECT_EQ(relativeRows(list, tree), strs({ "photos/b.txt" }));
-    ASSERT_FALSE(observer.reports.empty());
-    EXPECT_EQ(observer.reports.front().path, at("photos/b.txt"));
-    EXPECT_EQ(observer.reports.back().done, 1);
-}
-
-class RecordingObserver : public ProgressObserver {
-public:
-    void progress(const Progress& progress) override { reports.push_back(progress); }
-    std::vector<Progress> reports;
-};
-
-TEST_F(FileListScan, TheLastProgressReportHoldsTheCountFound)
+TEST_F(FileListScan, ProgressEndsOnTheCountFoundAndCancelKeepsWhatWasFound)
 {
     RecordingObserver observer;
-    const std::atomic_bool cancel = false;
-    list.addFiles({ at("photos") }, kFilesDeep, cancel, &observer);
+    const std::atomic_bool noCancel = false;
+    list.addFiles({ at("photos") }, kFilesDeep, noCancel, &observer);
     ASSERT_FALSE(observer.reports.empty());
     EXPECT_EQ(observer.reports.back().done, 6);
     EXPECT_EQ(observer.reports.back().path, at("photos/trip/x.jpg"));
+
+    FileList cancelledEarly;
+    const std::atomic_bool cancelled = true;
+    const ScanResult early = cancelledEarly.addFiles({ at("photos"), at("photos/b.txt") }, kFilesDeep, cancelled);
+    EXPECT_TRUE(early.cancelled);
+    EXPECT_EQ(early.added, 0);
+    EXPECT_TRUE(cancelledEarly.isEmpty());
+
+    FileList cancelledLate;
+    std::atomic_bool cancel = false;
+    RecordingObserver canceller(&cancel);
+    const ScanResult late
+        = cancelledLate.addFiles({ at("photos/b.txt"), at("photos/File9.jpg") }, kFiles, cancel, &canceller);
+    EXPECT_TRUE(late.cancelled);
+    EXPECT_EQ(late.added, 1);
+    EXPECT_EQ(relativeRows(cancelledLate, tree), strs({ "photos/b.txt" }));
+    EXPECT_EQ(canceller.reports.front().path, at("photos/b.txt"));
 }
 
 // Editing the list: rows named after letters so that expected orders read at a glance.
@@ -375,27 +320,21 @@ TEST_F(FileListEditing, RemoveTakesTheRowsAtOnceAndForgetsTheirPaths)
     EXPECT_EQ(names(list), str("bcea"));
 }
 
-TEST_F(FileListEditing, ClearEmptiesTheListAndTheKnownPaths)
+TEST_F(FileListEditing, KnownPathsFollowAppendClearAndRecordsChangedInPlace)
 {
+    EXPECT_FALSE(list.append(*FileSystemItem::initWithPath(tree.path(str("c")))));
+    EXPECT_EQ(list.size(), 5);
+
+    list.at(0).setFullPath(tree.path(str("renamed")));
+    list.resetFilesDic();
+    EXPECT_FALSE(list.containsPath(tree.path(str("a"))));
+    EXPECT_TRUE(list.containsPath(tree.path(str("renamed"))));
+
     list.clear();
     EXPECT_TRUE(list.isEmpty());
     EXPECT_FALSE(list.containsPath(tree.path(str("c"))));
     const std::atomic_bool cancel = false;
     EXPECT_EQ(list.addFiles({ tree.path(str("c")) }, kFiles, cancel).added, 1);
-}
-
-TEST_F(FileListEditing, AppendRefusesAKnownPath)
-{
-    EXPECT_FALSE(list.append(*FileSystemItem::initWithPath(tree.path(str("c")))));
-    EXPECT_EQ(list.size(), 5);
-}
-
-TEST_F(FileListEditing, ResetFilesDicFollowsRecordsChangedInPlace)
-{
-    list.at(0).setFullPath(tree.path(str("renamed")));
-    list.resetFilesDic();
-    EXPECT_FALSE(list.containsPath(tree.path(str("a"))));
-    EXPECT_TRUE(list.containsPath(tree.path(str("renamed"))));
 }
 
 TEST(FileListSort, SortsByOneKeyStablyInBothDirections)

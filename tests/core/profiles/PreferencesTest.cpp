@@ -1,76 +1,24 @@
 #include "core/profiles/Preferences.h"
 #include "core/text/LocalizedStrings.h"
 #include "reliability/HostileFiles.h"
+#include "PlistTestSupport.h"
 #include "support/TempTree.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMap>
-#include <QXmlStreamReader>
 #include <functional>
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace tavrin;
 using tavrin::test::TempTree;
+using tavrin::test::plistWith;
 
 namespace {
 
 const QString kSupportRelative = QStringLiteral("data/Palisade Soft/Tavrin3");
-
-// What a property-list file holds, read with Qt's own XML reader so that the check does
-// not go through the library that wrote the file.
-struct PlistFile {
-    QString dtdName;
-    QString publicId;
-    QString systemId;
-    QString rootVersion;
-    QMap<QString, QString> strings;  // key -> text of a <string> value
-    bool wellFormed = false;
-};
-
-PlistFile readPlistFile(const QString& path)
-{
-    PlistFile result;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return result;
-    QXmlStreamReader xml(&file);
-    QString pendingKey;
-    while (!xml.atEnd()) {
-        switch (xml.readNext()) {
-        case QXmlStreamReader::DTD:
-            result.dtdName = xml.dtdName().toString();
-            result.publicId = xml.dtdPublicId().toString();
-            result.systemId = xml.dtdSystemId().toString();
-            break;
-        case QXmlStreamReader::StartElement:
-            if (xml.name() == QLatin1String("plist"))
-                result.rootVersion = xml.attributes().value(QLatin1String("version")).toString();
-            else if (xml.name() == QLatin1String("key"))
-                pendingKey = xml.readElementText();
-            else if (xml.name() == QLatin1String("string"))
-                result.strings.insert(pendingKey, xml.readElementText());
-            break;
-        default:
-            break;
-        }
-    }
-    result.wellFormed = !xml.hasError();
-    return result;
-}
-
-QByteArray plistWith(const QByteArray& dictionaryBody)
-{
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-           "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
-           "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
-           "<plist version=\"1.0\">\n<dict>\n"
-        + dictionaryBody + "</dict>\n</plist>\n";
-}
 
 // Every test gets a data folder of its own, so each one is a first start.
 class PreferencesTest : public ::testing::Test {
@@ -78,12 +26,10 @@ protected:
     void SetUp() override
     {
         m_savedDataHome = qgetenv("XDG_DATA_HOME");
-        pointDataHomeAt(m_tree.folder(QStringLiteral("data")));
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_tree.folder(QStringLiteral("data"))));
     }
 
     void TearDown() override { qputenv("XDG_DATA_HOME", m_savedDataHome); }
-
-    static void pointDataHomeAt(const QString& path) { qputenv("XDG_DATA_HOME", QFile::encodeName(path)); }
 
     QString support() const { return m_tree.path(kSupportRelative); }
     QString preferencesFile() const { return m_tree.path(kSupportRelative + QStringLiteral("/preferences.plist")); }
@@ -94,19 +40,10 @@ private:
     QByteArray m_savedDataHome;
 };
 
-TEST_F(PreferencesTest, SupportFolderFollowsTheUserDataFolder)
+TEST_F(PreferencesTest, FirstStartMakesTheFoldersAndWritesTheDefaultPreferences)
 {
     EXPECT_EQ(getAppPath(), support());
     EXPECT_EQ(preferencesFilePath(), preferencesFile());
-    const Preferences defaults = Preferences::defaults();
-    EXPECT_EQ(defaults.defaultRulesFolderPath, support() + QStringLiteral("/Rules"));
-    EXPECT_EQ(defaults.defaultProfileFolderPath, support() + QStringLiteral("/Profiles"));
-    EXPECT_EQ(defaults.defaultLogFolderPath, support() + QStringLiteral("/Logs"));
-    EXPECT_FALSE(defaults.automaticSaveCurrProfile);
-}
-
-TEST_F(PreferencesTest, FirstStartMakesTheFoldersAndWritesTheDefaultPreferences)
-{
     const ApplicationSupport start = prepareApplicationSupport();
     ASSERT_TRUE(start.isReady()) << qPrintable(start.errorMessage);
     EXPECT_TRUE(start.errorTitle.isEmpty());
@@ -114,34 +51,25 @@ TEST_F(PreferencesTest, FirstStartMakesTheFoldersAndWritesTheDefaultPreferences)
     for (const char* folder : {"Logs", "Profiles", "Rules"})
         EXPECT_TRUE(QFileInfo(support() + QLatin1Char('/') + QLatin1String(folder)).isDir()) << folder;
 
-    const PlistFile plist = readPlistFile(preferencesFile());
+    const test::PlistDocument plist = test::readPlistDocument(preferencesFile());
     ASSERT_TRUE(plist.wellFormed);
     EXPECT_EQ(plist.dtdName, QStringLiteral("plist"));
     EXPECT_EQ(plist.publicId, QStringLiteral("-//Apple//DTD PLIST 1.0//EN"));
     EXPECT_EQ(plist.systemId, QStringLiteral("http://www.apple.com/DTDs/PropertyList-1.0.dtd"));
     EXPECT_EQ(plist.rootVersion, QStringLiteral("1.0"));
-    const QMap<QString, QString> expected = {
-        {QStringLiteral("defaultRulesFolderPath"), support() + QStringLiteral("/Rules")},
-        {QStringLiteral("defaultProfileFolderPath"), support() + QStringLiteral("/Profiles")},
-        {QStringLiteral("defaultLogFolderPath"), support() + QStringLiteral("/Logs")},
-        {QStringLiteral("automaticSaveCurrProfile"), QStringLiteral("0")},
-    };
-    EXPECT_EQ(plist.strings, expected);
+    QStringList entries;
+    for (const test::PlistEntry& entry : plist.entries)
+        entries << entry.key + u'=' + entry.element + u':' + entry.text;
+    entries.sort();
+    EXPECT_EQ(entries, (QStringList{QStringLiteral("automaticSaveCurrProfile=string:0"),
+                                    QStringLiteral("defaultLogFolderPath=string:") + support() + QStringLiteral("/Logs"),
+                                    QStringLiteral("defaultProfileFolderPath=string:") + support() + QStringLiteral("/Profiles"),
+                                    QStringLiteral("defaultRulesFolderPath=string:") + support() + QStringLiteral("/Rules")}));
 }
 
-TEST_F(PreferencesTest, ASecondStartKeepsWhatTheFirstWrote)
+TEST_F(PreferencesTest, SavedPreferencesAreReadBackAndKeptByTheNextStart)
 {
     ASSERT_TRUE(prepareApplicationSupport().isReady());
-    Preferences chosen = Preferences::defaults();
-    chosen.automaticSaveCurrProfile = true;
-    ASSERT_TRUE(savePreferences(chosen));
-    const ApplicationSupport again = prepareApplicationSupport();
-    ASSERT_TRUE(again.isReady());
-    EXPECT_EQ(again.preferences, chosen);
-}
-
-TEST_F(PreferencesTest, SavedPreferencesAreReadBack)
-{
     Preferences chosen;
     chosen.defaultRulesFolderPath = QStringLiteral("/srv/règles & <co>");
     chosen.defaultProfileFolderPath = QStringLiteral("/home/ana/Profils");
@@ -149,18 +77,15 @@ TEST_F(PreferencesTest, SavedPreferencesAreReadBack)
     chosen.automaticSaveCurrProfile = true;
     QString error;
     ASSERT_TRUE(savePreferences(chosen, &error)) << qPrintable(error);
-
     EXPECT_EQ(loadPreferences(), chosen);
-    const PlistFile plist = readPlistFile(preferencesFile());
+    const test::PlistDocument plist = test::readPlistDocument(preferencesFile());
     ASSERT_TRUE(plist.wellFormed);
-    EXPECT_EQ(plist.strings.value(QStringLiteral("automaticSaveCurrProfile")), QStringLiteral("1"));
-    EXPECT_EQ(plist.strings.value(QStringLiteral("defaultRulesFolderPath")), chosen.defaultRulesFolderPath);
+    EXPECT_EQ(plist.text(QStringLiteral("automaticSaveCurrProfile")), QStringLiteral("1"));
+    EXPECT_EQ(plist.text(QStringLiteral("defaultRulesFolderPath")), chosen.defaultRulesFolderPath);
 
     chosen.automaticSaveCurrProfile = false;
     ASSERT_TRUE(savePreferences(chosen));
-    EXPECT_EQ(loadPreferences(), chosen);
-    EXPECT_EQ(readPlistFile(preferencesFile()).strings.value(QStringLiteral("automaticSaveCurrProfile")),
-              QStringLiteral("0"));
+    EXPECT_EQ(prepareApplicationSupport().preferences, chosen);
 }
 
 struct FlagRow {
@@ -258,22 +183,17 @@ TEST_F(PreferencesTest, AFolderPathThatCannotServeFallsBackToTheDefault)
     }
 }
 
-TEST_F(PreferencesTest, AnExistingFolderIsAcceptedAsItIs)
+TEST_F(PreferencesTest, AnExistingFolderIsKeptAndAFileWhereOneBelongsIsReported)
 {
     const QString marker = m_tree.file(kSupportRelative + QStringLiteral("/Rules/kept.tnrule"), "x");
     QString error;
     EXPECT_TRUE(createApplicationUsersFolder(QStringLiteral("Rules"), &error));
     EXPECT_TRUE(error.isEmpty());
     EXPECT_TRUE(QFile::exists(marker));
-}
 
-TEST_F(PreferencesTest, AFileStandingWhereAFolderBelongsIsReported)
-{
     const QString blocker = m_tree.file(kSupportRelative + QStringLiteral("/Profiles"), "not a folder");
-    QString error;
     EXPECT_FALSE(createApplicationUsersFolder(QStringLiteral("Profiles"), &error));
     EXPECT_TRUE(error.contains(blocker)) << qPrintable(error);
-
     const ApplicationSupport start = prepareApplicationSupport();
     EXPECT_FALSE(start.isReady());
     EXPECT_EQ(start.errorTitle, localized("APPLICATIONINITTITLE"));
@@ -294,22 +214,6 @@ TEST_F(PreferencesTest, ASupportFolderThatCannotBeMadeStopsTheStart)
     QString error;
     EXPECT_FALSE(savePreferences(Preferences::defaults(), &error));
     EXPECT_TRUE(error.contains(preferencesFile())) << qPrintable(error);
-}
-
-TEST_F(PreferencesTest, AnUnwritableDataFolderStopsTheStart)
-{
-    const QString data = m_tree.folder(QStringLiteral("locked"));
-    ASSERT_EQ(::chmod(QFile::encodeName(data).constData(), 0500), 0);
-    pointDataHomeAt(data);
-    const ApplicationSupport start = prepareApplicationSupport();
-    ::chmod(QFile::encodeName(data).constData(), 0700);
-    if (::geteuid() == 0)
-        GTEST_SKIP() << "root ignores folder permissions";
-    ASSERT_FALSE(start.isReady());
-    EXPECT_EQ(start.errorTitle, localized("APPLICATIONINITTITLE"));
-    EXPECT_TRUE(start.errorMessage.startsWith(localized("APPLICATIONCREATEFOLDERFAILED").section(QLatin1String("%1"), 0, 0)))
-        << qPrintable(start.errorMessage);
-    EXPECT_TRUE(start.errorMessage.contains(data)) << qPrintable(start.errorMessage);
 }
 
 }  // namespace

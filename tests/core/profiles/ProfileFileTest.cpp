@@ -3,85 +3,22 @@
 #include "core/profiles/Settings.h"
 #include "core/profiles/SettingsRecord.h"
 #include "core/formats/KeyedArchive.h"
+#include "PlistTestSupport.h"
 #include "support/TempTree.h"
 
 #include <QFile>
-#include <QMetaProperty>
 #include <QTimeZone>
-#include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
 using namespace tavrin;
 using tavrin::test::TempTree;
+using tavrin::test::differentValue;
 
 namespace {
 
-// A value other than the current one for every option; texts gain characters that XML
-// has to escape.
-QString differentValue(const Settings& settings, const QString& key)
-{
-    const QMetaObject& meta = Settings::staticMetaObject;
-    const QString current = settings.optionToString(key);
-    switch (meta.property(meta.indexOfProperty(key.toUtf8().constData())).metaType().id()) {
-    case QMetaType::Bool:
-        return current == QLatin1String("1") ? QStringLiteral("0") : QStringLiteral("1");
-    case QMetaType::Int:
-        return QString::number(current.toInt() + 1);
-    case QMetaType::QStringList:
-        return current + QStringLiteral(",.Ünï");
-    case QMetaType::QDateTime:
-        return QStringLiteral("2001-02-03T04:05:06");
-    default:
-        return current + QStringLiteral(" <&é>");
-    }
-}
-
-struct PlistEntry {
-    QString key;
-    QString element;  // "string", "data", ...
-    QString text;
-};
-
-// The dictionary of a profile, read with Qt's own XML reader so that the check does not go
-// through the library that wrote the file.
-QList<PlistEntry> readEntries(const QString& path, QString* dtdPublicId)
-{
-    QList<PlistEntry> entries;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return entries;
-    QXmlStreamReader xml(&file);
-    QString key;
-    while (!xml.atEnd()) {
-        const QXmlStreamReader::TokenType token = xml.readNext();
-        if (token == QXmlStreamReader::DTD)
-            *dtdPublicId = xml.dtdPublicId().toString();
-        if (token != QXmlStreamReader::StartElement || xml.name() == QLatin1String("plist")
-            || xml.name() == QLatin1String("dict"))
-            continue;
-        const QString element = xml.name().toString();
-        const QString text = xml.readElementText();
-        if (element == QLatin1String("key"))
-            key = text;
-        else
-            entries.append({key, element, text});
-    }
-    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
-    return entries;
-}
-
-QByteArray profileWith(const QByteArray& dictionaryBody)
-{
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-           "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
-           "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
-           "<plist version=\"1.0\">\n<dict>\n"
-        + dictionaryBody + "</dict>\n</plist>\n";
-}
-
 QByteArray entry(const char* key, const char* value)
 {
-    return QByteArray("<key>") + key + "</key><string>" + value + "</string>\n";
+    return test::stringEntry(key, value);
 }
 
 }  // namespace
@@ -112,12 +49,12 @@ TEST(ProfileFile, IsAnXmlPropertyListOfTheRecordInOrder)
     const QString path = tree.path(QStringLiteral("layout.tnprofile"));
     ASSERT_TRUE(saveProfileFile(settings, path));
 
-    QString publicId;
-    const QList<PlistEntry> entries = readEntries(path, &publicId);
-    EXPECT_EQ(publicId, QStringLiteral("-//Apple//DTD PLIST 1.0//EN"));
+    const test::PlistDocument document = test::readPlistDocument(path);
+    ASSERT_TRUE(document.wellFormed);
+    EXPECT_EQ(document.publicId, QStringLiteral("-//Apple//DTD PLIST 1.0//EN"));
     QStringList keys;
-    QHash<QString, PlistEntry> byKey;
-    for (const PlistEntry& item : entries) {
+    QHash<QString, test::PlistEntry> byKey;
+    for (const test::PlistEntry& item : document.entries) {
         keys.append(item.key);
         byKey.insert(item.key, item);
     }
@@ -162,7 +99,7 @@ TEST(ProfileFile, VersionAndValuesDecideWhatLoads)
     };
     for (const auto& row : rows) {
         TempTree tree;
-        const QString path = tree.file(QStringLiteral("p.tnprofile"), profileWith(row.body));
+        const QString path = tree.file(QStringLiteral("p.tnprofile"), test::plistWith(row.body));
         Settings settings;
         QString error;
         EXPECT_EQ(loadProfileFile(settings, path, &error), row.result) << row.name;

@@ -1,6 +1,7 @@
 #include "core/profiles/Settings.h"
 #include "core/profiles/Tabs.h"
 #include "core/text/LocalizedStrings.h"
+#include "PlistTestSupport.h"
 
 #include <QMetaProperty>
 #include <QSignalSpy>
@@ -12,6 +13,7 @@
 #include <vector>
 
 using namespace tavrin;
+using tavrin::test::differentValue;
 
 namespace {
 
@@ -77,24 +79,6 @@ QMap<QString, QString> snapshot(const Settings& settings)
     for (const QString& key : Settings::optionKeys())
         values.insert(key, settings.optionToString(key));
     return values;
-}
-
-// A text form of a value that differs from the option's current one.
-QString differentValue(const Settings& settings, const QString& key)
-{
-    const QString current = settings.optionToString(key);
-    switch (propertyOf(key).metaType().id()) {
-    case QMetaType::Bool:
-        return current == QLatin1String("1") ? QStringLiteral("0") : QStringLiteral("1");
-    case QMetaType::Int:
-        return QString::number(current.toInt() + 1);
-    case QMetaType::QStringList:
-        return current.isEmpty() ? QStringLiteral(".X") : current + QStringLiteral(",.X");
-    case QMetaType::QDateTime:
-        return QStringLiteral("2001-02-03T04:05:06");
-    default:
-        return current + QStringLiteral("x");
-    }
 }
 
 TEST(SettingsRecord, HasEveryKeyOfTheRecordInItsOrderAndNothingElse)
