@@ -523,10 +523,10 @@ TEST_F(ActionTabsTest, TheSelectedTabFollowsTheVisiblePageAndTheSettings)
     EXPECT_EQ(settings.selectedTab(), tabs::General) << "the tabs are reachable by keyboard";
 
     settings.setSelectedTab(tabs::ReplaceRemove);
-    EXPECT_EQ(tabWidget.currentWidget(), replace);
+    EXPECT_EQ(tabWidget.currentActionTab(), replace);
     // A profile saved on a tab this window lacks: the visible page stays and says so.
     settings.setSelectedTab(tabs::Photo);
-    EXPECT_EQ(tabWidget.currentWidget(), replace);
+    EXPECT_EQ(tabWidget.currentActionTab(), replace);
     EXPECT_EQ(settings.selectedTab(), tabs::ReplaceRemove);
 }
 
@@ -534,7 +534,7 @@ TEST_F(ActionTabsTest, TheTabOfTheLastSessionIsShownEvenWhenItsPageComesLater)
 {
     settings.setSelectedTab(tabs::ReplaceRemove);
     addPages();
-    EXPECT_EQ(tabWidget.currentWidget(), replace);
+    EXPECT_EQ(tabWidget.currentActionTab(), replace);
     EXPECT_EQ(settings.selectedTab(), tabs::ReplaceRemove);
 }
 

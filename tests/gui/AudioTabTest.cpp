@@ -245,7 +245,7 @@ TEST_F(AudioWindowTest, TaggedFilesPreviewAndRenameAsArtistDashTitle)
     ActionTabs* tabs = window.renamePanel()->tabs();
     auto* page = static_cast<AudioTab*>(tabs->pageForTab(tabs::Audio));
     ASSERT_NE(page, nullptr);
-    tabs->setCurrentWidget(page);
+    settings().setSelectedTab(tabs::Audio);
     page->id3RenamingMaskActions(1);
     page->id3RenamingMaskActions(4);
     page->findChild<QCheckBox*>(QString::fromLatin1(Settings::isID3RenamingSeperatorKey))->click();

@@ -20,7 +20,7 @@ protected:
         original.defaultRulesFolderPath = tree.folder(QStringLiteral("Rules"));
         original.defaultProfileFolderPath = tree.folder(QStringLiteral("Profiles"));
         original.defaultLogFolderPath = tree.folder(QStringLiteral("Logs"));
-        sheet = std::make_unique<PreferencesSheet>(original, &prompter);
+        sheet = std::make_unique<PreferencesSheet>(original, true, &prompter);
         sheet->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(sheet.get()));
     }

@@ -49,7 +49,7 @@ protected:
         ActionTab* page = tabs->pageForTab(tabNumber);
         EXPECT_NE(page, nullptr) << tabNumber;
         QTest::mouseClick(
-            tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(tabs->indexOf(page)).center());
+            tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(tabs->indexOfTab(tabNumber)).center());
         EXPECT_EQ(settings().selectedTab(), tabNumber);
         return page;
     }

@@ -191,28 +191,17 @@ TEST_F(UndoSheetTest, UndoingTheLastRowSelectsTheRowAboveAndTheLastLogNothing)
     EXPECT_EQ(text("logCountLabel"), u"Logs: 0"_s);
 }
 
-TEST_F(UndoSheetTest, CommandsWithoutACurrentLogOnlyAlert)
+// Regression: Undo, View and Delete were offered before a log was chosen.
+TEST_F(UndoSheetTest, CommandsOnALogWaitUntilOneIsChosen)
 {
     writeThreeLogs();
     openSheet();
-
-    click("undoButton");
-    click("deleteLogButton");
-    click("viewLogButton");
-
-    ASSERT_EQ(prompter->alerts.size(), 3);
-    EXPECT_EQ(prompter->alerts[0].message, localized("UNDOFILESFOLDERSNOLOGSELECTED"));
-    EXPECT_EQ(prompter->alerts[1].message, localized("UNDOFILESFOLDERSNOLOGSELECTED"));
-    EXPECT_EQ(prompter->alerts[2].title, localized("VIEWLOGFILETITLE"));
-    EXPECT_EQ(prompter->alerts[2].message, localized("VIEWLOGFILETITLEMESSAGE"));
-    EXPECT_EQ(prompter->questions.size(), 0);
-    EXPECT_TRUE(prompter->opened.isEmpty());
-    EXPECT_EQ(sheet->model()->rowCount(), 3);
-
-    const QPointer<UndoSheetController> closing(sheet);
-    click("closeButton");
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_TRUE(closing.isNull()) << "each opening makes a sheet of its own";
+    for (const char* name : {"undoButton", "deleteLogButton", "viewLogButton"})
+        EXPECT_FALSE(part<QPushButton>(name)->isEnabled()) << name;
+    EXPECT_TRUE(part<QPushButton>("openLogButton")->isEnabled());
+    selectRow(1);
+    for (const char* name : {"undoButton", "deleteLogButton", "viewLogButton"})
+        EXPECT_TRUE(part<QPushButton>(name)->isEnabled()) << name;
 }
 
 TEST_F(UndoSheetTest, DeleteAnsweredNoKeepsTheLogAndYesRemovesIt)
@@ -355,17 +344,23 @@ TEST_F(UndoSheetTest, TheSheetStaysResponsiveThroughALongUndo)
     EXPECT_TRUE(part<QProgressBar>("undoBusyIndicator")->isVisible());
     EXPECT_FALSE(sheet->table()->isEnabled());
     EXPECT_FALSE(part<QPushButton>("deleteLogButton")->isEnabled());
+    EXPECT_TRUE(part<QPushButton>("cancelUndoButton")->isVisible());
+    // Esc stops the undo after the item at hand; the sheet stays to say what was done.
     QTest::keyClick(sheet, Qt::Key_Escape);
     EXPECT_TRUE(sheet->isVisible()) << "the sheet waits for the undo to end";
 
     ASSERT_TRUE(finished.wait(kWaitMilliseconds));
     EXPECT_GT(ticksWhileUndoing, 0) << "the event loop ran during the undo";
     EXPECT_FALSE(part<QProgressBar>("undoBusyIndicator")->isVisible());
+    EXPECT_FALSE(part<QPushButton>("cancelUndoButton")->isVisible());
     EXPECT_TRUE(sheet->table()->isEnabled());
     ASSERT_EQ(prompter->alerts.size(), 1);
+    const UndoSummary& summary = sheet->lastSummary();
     // Counts in the user's number format ("4,000" in English).
-    EXPECT_TRUE(prompter->alerts.first().message.contains(
-        u"Items given back their old names: "_s + QLocale().toString(4000)));
+    EXPECT_TRUE(prompter->alerts.first().message.contains(u"Items in the log: "_s + QLocale().toString(4000)));
+    ASSERT_LT(summary.restored, 4000) << "the undo ran to its end before Esc";
+    ASSERT_EQ(sheet->model()->rowCount(), 1);
+    EXPECT_EQ(sheet->model()->log(0).filesCount, 4000 - summary.restored) << "the row counts what the log keeps";
 }
 
 } // namespace

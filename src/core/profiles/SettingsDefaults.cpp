@@ -46,7 +46,7 @@ void insertModeAndSequence(QVariantHash& values)
         {Settings::isIncludeSubFoldersKey, true},
         {Settings::isAlphaNumericIncrementKey, true},
         {Settings::isAlphaNumericNumericKey, true},
-        {Settings::alphaNumericNumericStartWithKey, QStringLiteral("0")},
+        {Settings::alphaNumericNumericStartWithKey, QStringLiteral("1")},
         {Settings::alphaNumericAlphabeticStartWithKey, QStringLiteral("a")},
         {Settings::alphaNumericIncrementByKey, one},
         {Settings::alphaNumericDecrementByKey, one},

@@ -419,6 +419,17 @@ void MainWindow::sortIndicatorChanged(int section, Qt::SortOrder order)
     QApplication::restoreOverrideCursor();
 }
 
+// The header shows the order the list is kept in, when it is kept in one.
+void MainWindow::showArrivalOrder()
+{
+    const std::optional<SortKey> order = m_controller->list().arrivalOrder();
+    m_sortSection = order ? FileTableModel::columnOfKey(order->key) : -1;
+    if (order)
+        m_sortOrder = order->ascending ? Qt::AscendingOrder : Qt::DescendingOrder;
+    const QSignalBlocker blocker(m_table->horizontalHeader());
+    m_table->horizontalHeader()->setSortIndicator(m_sortSection, m_sortOrder);
+}
+
 // The list is no longer in the order the header shows.
 void MainWindow::clearSortIndicator()
 {
@@ -456,8 +467,8 @@ void MainWindow::listChanged()
     const ListController& list = m_controller->list();
     if (!list.isExecuting())
         m_countLabel->setText(list.countText());
-    if (m_model->rowCount() == 0)
-        clearSortIndicator();
+    if (!list.isExecuting())
+        showArrivalOrder();
     if (list.lastSkippedPaths().isEmpty())
         m_skippedLabel->hide();
     updateMoveActions();

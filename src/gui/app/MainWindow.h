@@ -82,6 +82,7 @@ private:
     QList<int> selectedRows() const;
 
     void sortIndicatorChanged(int section, Qt::SortOrder order);
+    void showArrivalOrder();
     void clearSortIndicator();
 
     void executingChanged(bool executing);

@@ -40,7 +40,8 @@ struct PreferencesSheet::FolderRow {
     const char* chooserTitleKey;
 };
 
-PreferencesSheet::PreferencesSheet(const Preferences& preferences, Prompter* prompter, QWidget* parent)
+PreferencesSheet::PreferencesSheet(
+    const Preferences& preferences, bool sortsOnArrival, Prompter* prompter, QWidget* parent)
     : Sheet({ "preferencesSheet", kTitleKey }, parent)
     , m_prompter(prompter)
 {
@@ -63,11 +64,16 @@ PreferencesSheet::PreferencesSheet(const Preferences& preferences, Prompter* pro
     m_automaticSaveBox->setObjectName(QStringLiteral("automaticSaveBox"));
     m_automaticSaveBox->setToolTip(localized("PREFERENCESAUTOSAVEPROFILETOOLTIP"));
     m_automaticSaveBox->setChecked(preferences.automaticSaveCurrProfile);
+    m_sortOnArrivalBox = new QCheckBox(localized("PREFERENCESSORTONARRIVAL"));
+    m_sortOnArrivalBox->setObjectName(QStringLiteral("sortOnArrivalBox"));
+    m_sortOnArrivalBox->setToolTip(localized("PREFERENCESSORTONARRIVALTOOLTIP"));
+    m_sortOnArrivalBox->setChecked(sortsOnArrival);
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(grid);
     layout->addSpacing(6);
     layout->addWidget(m_automaticSaveBox);
+    layout->addWidget(m_sortOnArrivalBox);
     layout->addSpacing(6);
     layout->addStretch(1);
     layout->addWidget(createButtons());
@@ -121,6 +127,11 @@ Preferences PreferencesSheet::preferences() const
     edited.defaultLogFolderPath = cleanedPath(m_logsField);
     edited.automaticSaveCurrProfile = m_automaticSaveBox->isChecked();
     return edited;
+}
+
+bool PreferencesSheet::sortsOnArrival() const
+{
+    return m_sortOnArrivalBox->isChecked();
 }
 
 // Saving a folder that is not there would only move the failure to the next save of a

@@ -9,6 +9,7 @@ TavrinAppController::TavrinAppController(QObject* parent)
     , m_rename(m_list, m_session)
 {
     m_settings.resetToStartValues();
+    m_list.setSortOnArrival(m_session.sortsOnArrival());
 }
 
 std::optional<ProfileOutcome> TavrinAppController::applicationDidFinishLaunching()

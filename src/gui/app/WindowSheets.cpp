@@ -43,11 +43,13 @@ void WindowSheets::showLivePreview()
 void WindowSheets::openPreferences()
 {
     SessionController& session = m_controller->session();
-    auto* sheet = new PreferencesSheet(session.preferences(), m_prompter, m_window);
+    auto* sheet = new PreferencesSheet(session.preferences(), session.sortsOnArrival(), m_prompter, m_window);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(sheet, &PreferencesSheet::helpRequested, this,
         [this] { showHelpPage(QStringLiteral("preferences.html")); });
     connect(sheet, &QDialog::accepted, this, [this, &session, sheet] {
+        session.rememberSortOnArrival(sheet->sortsOnArrival());
+        m_controller->list().setSortOnArrival(sheet->sortsOnArrival());
         QString error;
         if (session.applyPreferences(sheet->preferences(), &error))
             m_prompter->inform(

@@ -122,9 +122,11 @@ bool ListController::addFiles(const QStringList& paths)
     emit foundCountChanged(foundCountText(0));
     const ScanOptions options { isFolders(), isIncludeSubFolders(), false };
     auto skipped = std::make_shared<QStringList>();
-    const auto scan = [paths, options, skipped](
+    const auto scan = [paths, options, skipped, order = arrivalOrder()](
                           FileList& files, const std::atomic_bool& cancel, ProgressObserver* progress) {
         *skipped = files.addFiles(paths, options, cancel, progress).skipped;
+        if (order)
+            files.sortBy(*order);
     };
     return run({ localized("LOADINGMESSAGE").arg(modeWordText()), "addFiles", false }, scan,
         [this, skipped] { finishAddFiles(*skipped); });
@@ -228,6 +230,7 @@ void ListController::clear()
         return;
     emit listAboutToChange();
     m_files.clear();
+    m_userArranged = false;
     m_lastSkippedPaths.clear();
     emit listChanged();
     emit cleared();
@@ -240,6 +243,7 @@ QList<int> ListController::moveUp(const QList<int>& rows)
     if (m_isExecuting)
         return rows;
     emit orderAboutToChange();
+    arrangedByUser(std::nullopt);
     QList<int> moved = m_files.moveUp(rows);
     emit orderChanged();
     return moved;
@@ -250,6 +254,7 @@ QList<int> ListController::moveDown(const QList<int>& rows)
     if (m_isExecuting)
         return rows;
     emit orderAboutToChange();
+    arrangedByUser(std::nullopt);
     QList<int> moved = m_files.moveDown(rows);
     emit orderChanged();
     return moved;
@@ -260,8 +265,24 @@ void ListController::sort(const SortKey& key)
     if (m_isExecuting)
         return;
     emit listAboutToChange();
+    arrangedByUser(key);
     m_files.sortBy(key);
     emit listChanged();
+}
+
+std::optional<SortKey> ListController::arrivalOrder() const
+{
+    if (m_userArranged)
+        return m_userOrder;
+    if (m_sortOnArrival)
+        return SortKey { QString::fromLatin1(itemkeys::FilenameWithExtension), true };
+    return std::nullopt;
+}
+
+void ListController::arrangedByUser(const std::optional<SortKey>& order)
+{
+    m_userArranged = true;
+    m_userOrder = order;
 }
 
 } // namespace tavrin

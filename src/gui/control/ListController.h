@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QStringList>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace tavrin {
@@ -81,6 +82,11 @@ public:
     QList<int> moveUp(const QList<int>& rows);
     QList<int> moveDown(const QList<int>& rows);
     void sort(const SortKey& key);
+    // The order items that arrive are put in: by name the way people count, unless the
+    // preference is off or the user made an order of their own (a header click keeps its
+    // key; a move keeps the rows where the user put them, so arrivals go at the end).
+    std::optional<SortKey> arrivalOrder() const;
+    void setSortOnArrival(bool sort) { m_sortOnArrival = sort; }
     // After an undo: the rows of the items given back their old names show those names again.
     void followUndo(const QList<RenameLogEntry>& restored);
 
@@ -111,6 +117,7 @@ private:
     void finishJob();
     void finishAddFiles(const QStringList& skipped);
     void modeSettingChanged();
+    void arrangedByUser(const std::optional<SortKey>& order);
     QString foundCountText(int found) const;
     QString modeWordText() const;
 
@@ -123,6 +130,9 @@ private:
     QStringList m_lastSkippedPaths;
     bool m_isExecuting = false;
     bool m_isQuietJob = false;
+    bool m_sortOnArrival = true;
+    bool m_userArranged = false;
+    std::optional<SortKey> m_userOrder;
 };
 
 } // namespace tavrin

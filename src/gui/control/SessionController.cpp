@@ -118,6 +118,17 @@ LivePreviewChoice SessionController::restoredLivePreview() const
     return choice;
 }
 
+bool SessionController::sortsOnArrival() const
+{
+    return m_userDefaults.value(QLatin1String(userdefaults::SortOnArrival), true).toBool();
+}
+
+void SessionController::rememberSortOnArrival(bool sort)
+{
+    m_userDefaults.setValue(QLatin1String(userdefaults::SortOnArrival), sort);
+    m_userDefaults.sync();
+}
+
 void SessionController::rememberLivePreview(const LivePreviewChoice& choice)
 {
     m_userDefaults.setValue(QLatin1String(userdefaults::LivePreview), choice.enabled);

@@ -24,6 +24,8 @@ inline constexpr char LivePreviewAllFiles[] = "LIVEPREVIEWALLFILES";
 inline constexpr char LivePreviewFilesLimit[] = "LIVEPREVIEWFILESLIMIT";
 // The file table's columns the user hid.
 inline constexpr char HiddenColumns[] = "HIDDENCOLUMNS";
+// Whether items that arrive in the window are sorted by name.
+inline constexpr char SortOnArrival[] = "SORTONARRIVAL";
 } // namespace userdefaults
 
 // How opening a profile ended, with the message to show when it failed.
@@ -68,6 +70,9 @@ public:
     QSettings& userDefaults() { return m_userDefaults; }
 
     LivePreviewChoice restoredLivePreview() const;
+    // On unless the user turned it off.
+    bool sortsOnArrival() const;
+    void rememberSortOnArrival(bool sort);
     void rememberLivePreview(const LivePreviewChoice& choice);
 
     // The profile file in use; empty for none (the window title then says "Default").

@@ -21,11 +21,13 @@ public:
     // selected tab. Called once the pages are added, and whenever the setting changes.
     void showSelectedTab();
 
-    // The page of a tab number, or null when it has none.
+    // The page of a tab number, or null when it has none; its index, or -1.
     ActionTab* pageForTab(int tabNumber) const;
+    int indexOfTab(int tabNumber) const;
     ActionTab* currentActionTab() const;
 
 private:
+    ActionTab* pageAt(int index) const;
     void currentPageChanged(int index);
 
     Settings& m_settings;

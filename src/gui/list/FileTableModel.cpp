@@ -64,6 +64,15 @@ QString FileTableModel::columnKey(int column)
     return isValidColumn(column) ? QString::fromLatin1(kColumns[column].key) : QString();
 }
 
+int FileTableModel::columnOfKey(const QString& key)
+{
+    for (int column = 0; column < ColumnCount; ++column) {
+        if (key == QLatin1String(kColumns[column].key))
+            return column;
+    }
+    return -1;
+}
+
 bool FileTableModel::isSortableColumn(int column)
 {
     return isValidColumn(column) && column != IconColumn;
@@ -114,6 +123,28 @@ const char* reasonKey(const FileSystemItem& item)
     return item.isConflict() ? "CONFLICTTOOLTIP" : nullptr;
 }
 
+// The status in the user's language; the record, the log and the CLI keep the English text.
+const char* statusKey(RenameStatus status)
+{
+    switch (status) {
+    case RenameStatus::NoChanges:
+        return "STATUSNOCHANGES";
+    case RenameStatus::FileAlreadyExists:
+        return "STATUSFILEALREADYEXISTS";
+    case RenameStatus::FolderAlreadyExists:
+        return "STATUSFOLDERALREADYEXISTS";
+    case RenameStatus::FileNotFound:
+        return "STATUSFILENOTFOUND";
+    case RenameStatus::FolderNotFound:
+        return "STATUSFOLDERNOTFOUND";
+    case RenameStatus::RenamingOk:
+        return "STATUSRENAMINGOK";
+    case RenameStatus::None:
+        break;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 // The item's path, and why it cannot be renamed when it cannot.
@@ -128,6 +159,8 @@ QString FileTableModel::displayText(const QModelIndex& index) const
 {
     const FileSystemItem& item = m_list->shownItems()[static_cast<size_t>(index.row())];
     const int column = index.column();
+    if (column == NewNameColumn && item.hasStatus())
+        return localized(statusKey(item.status()));
     const QString text = item.displayField(columnKey(column));
     // The record answers the type as a string-table key ("FILE", "FOLDER").
     if (column == TypeColumn && !text.isEmpty())

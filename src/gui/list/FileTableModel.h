@@ -29,6 +29,8 @@ public:
 
     // The record key a column shows ("filenameWithExtension", ...).
     static QString columnKey(int column);
+    // The column showing a record key; -1 for a key no column shows.
+    static int columnOfKey(const QString& key);
     static bool isSortableColumn(int column);
 
 private:

@@ -34,6 +34,14 @@ void LogTableModel::removeLog(int row)
     endRemoveRows();
 }
 
+void LogTableModel::setFilesCount(int row, int count)
+{
+    if (m_logs[row].filesCount == count)
+        return;
+    m_logs[row].filesCount = count;
+    emit dataChanged(index(row, FilesCountColumn), index(row, FilesCountColumn));
+}
+
 int LogTableModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_logs.size());

@@ -21,6 +21,7 @@ public:
     // The row of the log at `path`, or -1 when it is not listed.
     int rowOfPath(const QString& path) const;
     void removeLog(int row);
+    void setFilesCount(int row, int count);
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;

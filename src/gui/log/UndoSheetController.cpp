@@ -1,6 +1,7 @@
 #include "gui/log/UndoSheetController.h"
 
 #include "core/log/LogListing.h"
+#include "core/log/RenameLogReader.h"
 #include "core/text/LocalizedStrings.h"
 #include "gui/control/ActivityStatus.h"
 #include "gui/control/BackgroundJob.h"
@@ -21,6 +22,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <memory>
 
 namespace tavrin {
 
@@ -42,6 +44,7 @@ UndoSheetController::UndoSheetController(UndoSheetContext context, QWidget* pare
     , m_context(std::move(context))
     , m_model(new LogTableModel(this))
     , m_worker(new BackgroundJob(this))
+    , m_counter(new BackgroundJob(this))
 {
     createWidgets();
     connect(m_worker, &BackgroundJob::progressChanged, this, &UndoSheetController::showProgress);
@@ -102,6 +105,11 @@ QWidget* UndoSheetController::createStatusArea()
     m_busyIndicator->setFixedWidth(140);
     m_busyIndicator->setMaximumHeight(m_statusLabel->sizeHint().height());
     m_busyIndicator->hide();
+    m_cancelButton = new QPushButton(localized("CANCEL"));
+    m_cancelButton->setObjectName(QStringLiteral("cancelUndoButton"));
+    m_cancelButton->setToolTip(localized("CANCELUNDOTOOLTIP"));
+    m_cancelButton->hide();
+    connect(m_cancelButton, &QPushButton::clicked, this, &UndoSheetController::cancelUndo);
     m_currentLogLabel = new ElidedLabel;
     m_currentLogLabel->setObjectName(QStringLiteral("currentLogLabel"));
     m_currentLogLabel->setForegroundRole(QPalette::PlaceholderText);
@@ -114,6 +122,7 @@ QWidget* UndoSheetController::createStatusArea()
     counts->addStretch(1);
     counts->addWidget(m_busyIndicator);
     counts->addWidget(m_statusLabel);
+    counts->addWidget(m_cancelButton);
     layout->addLayout(counts);
     layout->addWidget(m_currentLogLabel);
     return area;
@@ -122,27 +131,28 @@ QWidget* UndoSheetController::createStatusArea()
 // Beside the table, the commands that act on the current log without undoing it.
 QWidget* UndoSheetController::createLogCommands()
 {
-    m_logCommands = new QWidget;
-    auto* layout = new QVBoxLayout(m_logCommands);
+    auto* commands = new QWidget;
+    auto* layout = new QVBoxLayout(commands);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(makeButton({ "openLogButton", "OPENLOGBUTTON", "OPENLOGTOOLTIP" },
-        themeIcon("document-open", QStyle::SP_DialogOpenButton), &UndoSheetController::openLogFile));
-    layout->addWidget(makeButton({ "viewLogButton", "VIEWLOGBUTTON", "VIEWLOGTOOLTIP" },
-        themeIcon("document-preview", QStyle::SP_FileDialogContentsView),
-        &UndoSheetController::viewLogFileContent));
-    layout->addWidget(makeButton({ "deleteLogButton", "DELETELOGBUTTON", "DELETELOGTOOLTIP" },
-        themeIcon("edit-delete", QStyle::SP_TrashIcon), &UndoSheetController::deleteLogFile));
+    m_openButton = makeButton({ "openLogButton", "OPENLOGBUTTON", "OPENLOGTOOLTIP" },
+        themeIcon("document-open", QStyle::SP_DialogOpenButton), &UndoSheetController::openLogFile);
+    m_viewButton = makeButton({ "viewLogButton", "VIEWLOGBUTTON", "VIEWLOGTOOLTIP" },
+        themeIcon("document-preview", QStyle::SP_FileDialogContentsView), &UndoSheetController::viewLogFileContent);
+    m_deleteButton = makeButton({ "deleteLogButton", "DELETELOGBUTTON", "DELETELOGTOOLTIP" },
+        themeIcon("edit-delete", QStyle::SP_TrashIcon), &UndoSheetController::deleteLogFile);
+    for (QPushButton* button : { m_openButton, m_viewButton, m_deleteButton })
+        layout->addWidget(button);
     layout->addStretch(1);
-    return m_logCommands;
+    return commands;
 }
 
 QDialogButtonBox* UndoSheetController::createButtons()
 {
     QDialogButtonBox* box = createButtonBox(QDialogButtonBox::Close);
     // The sheet is there to undo: its button takes the place and the Return key of an OK.
-    QPushButton* undo = addDefaultButton(box, { "undoButton", "UNDOBUTTON", "UNDOBUTTONTOOLTIP" });
-    undo->setIcon(themeIcon("edit-undo", QStyle::SP_ArrowBack));
-    connect(undo, &QPushButton::clicked, this, &UndoSheetController::undoRenaming);
+    m_undoButton = addDefaultButton(box, { "undoButton", "UNDOBUTTON", "UNDOBUTTONTOOLTIP" });
+    m_undoButton->setIcon(themeIcon("edit-undo", QStyle::SP_ArrowBack));
+    connect(m_undoButton, &QPushButton::clicked, this, &UndoSheetController::undoRenaming);
     return box;
 }
 
@@ -166,6 +176,57 @@ void UndoSheetController::loadUserLogFiles()
     setCurrentLog(QString(), 0);
     m_model->setLogs(tavrin::loadUserLogFiles(m_context.logFolder));
     showEntriesStatus(0);
+    countEntries();
+}
+
+bool UndoSheetController::isCounting() const
+{
+    return m_counter->isRunning();
+}
+
+// The count in a log's name is its batch's; a log an undo kept holds fewer entries. A quiet
+// pass reads what each listed log holds and the rows show that.
+void UndoSheetController::countEntries()
+{
+    QStringList paths;
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        paths.append(m_model->log(row).path);
+    auto counts = std::make_shared<QList<int>>();
+    const bool started = m_counter->start([paths, counts](const std::atomic_bool& cancel, ProgressObserver*) {
+        for (const QString& path : paths) {
+            if (cancel.load())
+                return;
+            const std::optional<RenameLogContents> contents = readLogEntries(path);
+            counts->append(contents ? static_cast<int>(contents->entries.size()) : -1);
+        }
+    });
+    if (started)
+        connect(m_counter, &BackgroundJob::finished, this, [this, paths, counts] { showCounts(paths, *counts); },
+            Qt::SingleShotConnection);
+}
+
+void UndoSheetController::showCounts(const QStringList& paths, const QList<int>& counts)
+{
+    // An undo since the pass began has its own, newer count.
+    if (m_isUndoing || counts.size() != paths.size())
+        return;
+    for (qsizetype index = 0; index < paths.size(); ++index) {
+        if (counts[index] < 0)
+            continue;
+        showRemainingEntries(paths[index], counts[index]);
+        if (paths[index] == m_currLogFilePath)
+            showEntriesStatus(counts[index]);
+    }
+}
+
+// The log at `path` holds `entries` entries: its row says so, and Undo counts on them.
+void UndoSheetController::showRemainingEntries(const QString& path, int entries)
+{
+    const int row = m_model->rowOfPath(path);
+    if (row >= 0)
+        m_model->setFilesCount(row, entries);
+    if (path == m_currLogFilePath)
+        m_totalFilesCanBeUndoFromLog = entries;
 }
 
 // Clearing the selection leaves the current log as it was: a log opened from disk has no row.
@@ -184,6 +245,18 @@ void UndoSheetController::setCurrentLog(const QString& path, int entries)
     m_currLogFilePath = path;
     m_totalFilesCanBeUndoFromLog = entries;
     m_currentLogLabel->setFullText(path.isEmpty() ? QString() : localized("CURRENTLOG").arg(path));
+    updateCommands();
+}
+
+// Opening a log is always offered; the rest act on the current log, and nothing but Cancel
+// while an undo runs.
+void UndoSheetController::updateCommands()
+{
+    const bool hasLog = !m_currLogFilePath.isEmpty();
+    m_openButton->setEnabled(!m_isUndoing);
+    for (QPushButton* button : { m_viewButton, m_deleteButton, m_undoButton })
+        button->setEnabled(!m_isUndoing && hasLog);
+    m_buttons->button(QDialogButtonBox::Close)->setEnabled(!m_isUndoing);
 }
 
 void UndoSheetController::showEntriesStatus(int entries)
@@ -200,8 +273,9 @@ void UndoSheetController::setUndoing(bool undoing, const QString& status)
 {
     m_isUndoing = undoing;
     m_table->setEnabled(!undoing);
-    m_logCommands->setEnabled(!undoing);
-    m_buttons->setEnabled(!undoing);
+    updateCommands();
+    m_cancelButton->hide();
+    m_cancelButton->setEnabled(true);
     // Busy until the worker says how far it has come.
     m_busyIndicator->setRange(0, 0);
     m_busyIndicator->setVisible(undoing);
@@ -237,6 +311,8 @@ void UndoSheetController::undoRenaming()
         return;
     }
     setUndoing(true, localized("UNDOINGITEMS"));
+    m_cancelButton->show();
+    m_counter->cancel();
     m_context.status->startTiming();
     m_jobPath = m_currLogFilePath;
     m_summary = UndoSummary();
@@ -256,18 +332,19 @@ void UndoSheetController::finishUndo()
     m_context.status->finishTiming("UNDOINGTIME");
     switch (m_summary.outcome) {
     case UndoOutcome::Done:
+    case UndoOutcome::Cancelled:
         alert(Severity::Information, kTitleKey, undoSummaryText(m_summary));
         // The undo deleted the log unless that failed; then the row stays, as the file does.
         if (!QFileInfo::exists(m_jobPath))
             forgetLog(m_jobPath);
+        else if (m_summary.logKept)
+            showRemainingEntries(m_jobPath, m_summary.notRestored());
         break;
     case UndoOutcome::NotALog:
         alert(Severity::Warning, kTitleKey, localized("UNDOFILESFOLDERSINVALIDFILE"));
         break;
     case UndoOutcome::InUse:
         alert(Severity::Warning, kTitleKey, localized("UNDOFILESFOLDERSLOGINUSE"));
-        break;
-    case UndoOutcome::Cancelled:
         break;
     }
     emit undoFinished();
@@ -371,11 +448,21 @@ void UndoSheetController::showHelp()
         alert(Severity::Warning, "HELP", helpUnavailableText(page));
 }
 
-// Closing waits for a running undo: the sheet is the only place that reports how it ended.
+void UndoSheetController::cancelUndo()
+{
+    m_cancelButton->setEnabled(false);
+    m_statusLabel->setText(localized("CANCELLINGUNDO"));
+    m_worker->cancel();
+}
+
+// Closing waits for a running undo, the sheet being the only place that reports how it
+// ended; Esc then cancels it instead.
 void UndoSheetController::reject()
 {
     if (!m_isUndoing)
         QDialog::reject();
+    else if (m_cancelButton->isVisible())
+        cancelUndo();
 }
 
 } // namespace tavrin

@@ -31,9 +31,10 @@ struct UndoSheetContext {
 };
 
 // The sheet that undoes a logged batch: the logs of the log folder, newest first, and the
-// commands to undo, open, view and delete one. The undo itself and the check of a log chosen
+// commands to undo, open, view and delete one, enabled once a log is chosen. The undo itself and the check of a log chosen
 // on disk run on a worker thread, so the sheet stays responsive through a long undo; while
-// one runs, every command waits and the sheet cannot be closed.
+// one runs, every command waits and the sheet cannot be closed; Cancel (or Esc) stops an undo
+// after the entry at hand, and the log keeps what was not restored.
 class UndoSheetController : public Sheet {
     Q_OBJECT
 
@@ -45,6 +46,8 @@ public:
     QTableView* table() const { return m_table; }
     // True while a log is checked or undone.
     bool isUndoing() const { return m_isUndoing; }
+    // True while the listed logs are read for their entry counts.
+    bool isCounting() const;
     // The log the commands act on: the selected row's, or one opened from disk; "" for none.
     const QString& currLogFilePath() const { return m_currLogFilePath; }
     int totalFilesCanBeUndoFromLog() const { return m_totalFilesCanBeUndoFromLog; }
@@ -87,6 +90,12 @@ private:
     void showProgress(const Progress& progress);
     void alert(Prompter::Severity severity, const char* titleKey, const QString& message);
 
+    void updateCommands();
+    void countEntries();
+    void showCounts(const QStringList& paths, const QList<int>& counts);
+    void showRemainingEntries(const QString& path, int entries);
+    void cancelUndo();
+
     void finishCheck();
     void finishUndo();
     void removeCurrentLog();
@@ -95,13 +104,19 @@ private:
     UndoSheetContext m_context;
     LogTableModel* m_model;
     BackgroundJob* m_worker;
+    // Reads how many entries each listed log holds, without holding up the sheet.
+    BackgroundJob* m_counter;
 
     QTableView* m_table = nullptr;
     QLabel* m_countLabel = nullptr;
     QLabel* m_statusLabel = nullptr;
     ElidedLabel* m_currentLogLabel = nullptr;
     QProgressBar* m_busyIndicator = nullptr;
-    QWidget* m_logCommands = nullptr;
+    QPushButton* m_cancelButton = nullptr;
+    QPushButton* m_openButton = nullptr;
+    QPushButton* m_viewButton = nullptr;
+    QPushButton* m_deleteButton = nullptr;
+    QPushButton* m_undoButton = nullptr;
     QDialogButtonBox* m_buttons = nullptr;
 
     QString m_currLogFilePath;

@@ -372,9 +372,9 @@ TEST_F(PipelineTest, AMissingItemDoesNotUseUpASequenceValue)
 
     preview();
 
-    EXPECT_EQ(newNameOf(u"a.txt"_s), u"a00.txt"_s);
+    EXPECT_EQ(newNameOf(u"a.txt"_s), u"a01.txt"_s);
     EXPECT_EQ(newNameOf(u"b.txt"_s), statusText(status::FileNotFound));
-    EXPECT_EQ(newNameOf(u"c.txt"_s), u"c01.txt"_s);
+    EXPECT_EQ(newNameOf(u"c.txt"_s), u"c02.txt"_s);
 }
 
 TEST_F(PipelineTest, EachTabRunsItsOwnAction)

@@ -24,6 +24,7 @@ const QSet<QString> kNotKeys = {
     QStringLiteral("LIVEPREVIEWALLFILES"),
     QStringLiteral("LIVEPREVIEWFILESLIMIT"),
     QStringLiteral("HIDDENCOLUMNS"),
+    QStringLiteral("SORTONARRIVAL"),
     // The audio tag library's property names and the rule name of the audio action.
     QStringLiteral("ARTIST"),
     QStringLiteral("COMPOSER"),
