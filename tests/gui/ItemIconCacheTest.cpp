@@ -1,17 +1,11 @@
 #include "gui/list/ItemIconCache.h"
 
-#include "core/list/FileSystemItem.h"
-#include "core/list/StatusTexts.h"
-#include "support/TempTree.h"
+#include "GuiFixture.h"
 
-#include <QImage>
 #include <QPainter>
-#include <QPixmap>
-#include <utility>
-#include <gtest/gtest.h>
 
 using namespace tavrin;
-using tavrin::test::TempTree;
+using namespace tavrin::test;
 
 namespace {
 
@@ -24,81 +18,51 @@ QImage imageOf(const QIcon& icon)
     QImage image(kSize, kSize, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(QRect(0, 0, kSize, kSize), icon.pixmap(QSize(kSize, kSize), 1.0));
     return image;
 }
 
-
-FileSystemItem recordWith(const QString& path, RenameStatus status, const char* proposal = "")
+FileSystemItem recordWith(const QString& path, RenameStatus status, const QString& proposal = {})
 {
     FileSystemItem item = *FileSystemItem::initWithPath(path);
-    item.setObject(QString::fromUtf8(proposal), QStringLiteral("newFilename"));
+    item.setObject(proposal, u"newFilename"_s);
     if (status != RenameStatus::None)
         item.setStatus(status);
     return item;
 }
 
-TEST(ItemIconCache, EveryStatusChoosesItsBadge)
+TEST(ItemIconCache, TheStatusChoosesTheBadgeInTheLowerRightCorner)
 {
-    using Badge = ItemIconCache::Badge;
-    const std::pair<RenameStatus, Badge> rows[] = {
-        { RenameStatus::None, Badge::None },
-        { RenameStatus::NoChanges, Badge::Error },
-        { RenameStatus::FileAlreadyExists, Badge::Error },
-        { RenameStatus::FolderAlreadyExists, Badge::Error },
-        { RenameStatus::FileNotFound, Badge::Error },
-        { RenameStatus::FolderNotFound, Badge::Error },
-        { RenameStatus::RenamingOk, Badge::Success },
+    TempTree tree;
+    const QString path = tree.file(u"a.txt"_s);
+    const QString folder = tree.folder(u"f"_s);
+    ItemIconCache icons;
+    const auto image = [&](const QString& item, RenameStatus status, const QString& proposal = {}) {
+        return imageOf(icons.icon(recordWith(item, status, proposal)));
     };
-    for (const auto& [status, badge] : rows)
-        EXPECT_EQ(ItemIconCache::badgeFor(status), badge) << statusText(status).toStdString();
-}
-
-TEST(ItemIconCache, AnErrorStatusOverlaysTheErrorBadge)
-{
-    TempTree tree;
-    const QString path = tree.file(QStringLiteral("a.txt"));
-    ItemIconCache icons;
-
-    const QImage plain = imageOf(icons.icon(recordWith(path, RenameStatus::None)));
-    const QImage proposed = imageOf(icons.icon(recordWith(path, RenameStatus::None, "No Changes")));
-    const QImage error = imageOf(icons.icon(recordWith(path, RenameStatus::FileAlreadyExists)));
-    const QImage noChanges = imageOf(icons.icon(recordWith(path, RenameStatus::NoChanges)));
-    const QImage success = imageOf(icons.icon(recordWith(path, RenameStatus::RenamingOk)));
-
-    EXPECT_EQ(plain, proposed) << "a proposed name is not a status, even one that reads like it";
+    const QImage plain = image(path, RenameStatus::None);
+    const QImage error = image(path, RenameStatus::FileAlreadyExists);
+    EXPECT_EQ(plain, image(path, RenameStatus::None, u"No Changes"_s))
+        << "a proposed name is not a status, even one that reads like it";
     EXPECT_NE(plain, error);
-    EXPECT_EQ(error, noChanges) << "every refusal wears the same badge";
-    EXPECT_NE(success, error);
-    EXPECT_NE(success, plain);
-
-    // The badge sits in the lower right corner; the upper left is still the file's icon.
-    EXPECT_EQ(error.pixel(2, 2), plain.pixel(2, 2));
+    EXPECT_EQ(error, image(path, RenameStatus::NoChanges)) << "every refusal wears the same badge";
+    EXPECT_NE(image(path, RenameStatus::RenamingOk), error);
+    EXPECT_NE(image(path, RenameStatus::RenamingOk), plain);
+    EXPECT_EQ(error.pixel(2, 2), plain.pixel(2, 2)) << "the upper left is still the file's icon";
     EXPECT_NE(error.pixel(kSize - 8, kSize - 8), plain.pixel(kSize - 8, kSize - 8));
+    EXPECT_NE(plain, image(folder, RenameStatus::None)) << "folders and files look different";
+    EXPECT_NE(image(folder, RenameStatus::None), image(folder, RenameStatus::FolderNotFound));
 }
 
-TEST(ItemIconCache, FoldersAndFilesLookDifferent)
-{
-    TempTree tree;
-    const QString file = tree.file(QStringLiteral("a.txt"));
-    const QString folder = tree.folder(QStringLiteral("f"));
-    ItemIconCache icons;
-    EXPECT_NE(
-        imageOf(icons.icon(recordWith(file, RenameStatus::None))), imageOf(icons.icon(recordWith(folder, RenameStatus::None))));
-    EXPECT_NE(imageOf(icons.icon(recordWith(folder, RenameStatus::None))),
-        imageOf(icons.icon(recordWith(folder, RenameStatus::FolderNotFound))));
-}
-
-TEST(ItemIconCache, FilesWithTheSameExtensionShareOneIcon)
+TEST(ItemIconCache, FilesWithTheSameExtensionAndBadgeShareOneIcon)
 {
     TempTree tree;
     ItemIconCache icons;
-    const QIcon first = icons.icon(recordWith(tree.file(QStringLiteral("a.TXT")), RenameStatus::NoChanges));
-    const QIcon second = icons.icon(recordWith(tree.file(QStringLiteral("b.txt")), RenameStatus::NoChanges));
+    const QIcon first = icons.icon(recordWith(tree.file(u"a.TXT"_s), RenameStatus::NoChanges));
+    const QIcon second = icons.icon(recordWith(tree.file(u"b.txt"_s), RenameStatus::NoChanges));
     EXPECT_EQ(first.cacheKey(), second.cacheKey());
-    const QIcon other = icons.icon(recordWith(tree.file(QStringLiteral("c.txt")), RenameStatus::None));
+    const QIcon other = icons.icon(recordWith(tree.file(u"c.txt"_s), RenameStatus::None));
     EXPECT_NE(first.cacheKey(), other.cacheKey()) << "the badge is part of what is cached";
 }
 

@@ -28,19 +28,6 @@ protected:
     QAction* action(const char* name) const { return child<QAction>(QString::fromLatin1(name)); }
     QString label(const char* name) const { return child<QLabel>(QString::fromLatin1(name))->text(); }
 
-    // Lists files of the given names, in that order, the way a drop does.
-    void addFiles(const QStringList& names)
-    {
-        QStringList paths;
-        for (const QString& name : names)
-            paths.append(tree.file(u"files/"_s + name));
-        ASSERT_TRUE(runAndWait(&list(), &ListController::addFinished, [&] {
-            window.addPaths(paths);
-            return true;
-        }));
-        ASSERT_EQ(window.tableModel()->rowCount(), names.size());
-    }
-
     void selectRows(const QList<int>& rows)
     {
         QItemSelection selection;
@@ -106,7 +93,7 @@ struct ModeRow {
 // and which one Ctrl+O triggers.
 TEST_F(MainWindowTest, TheModeChoosesTheAddCommandsAndAChangeEmptiesTheList)
 {
-    addFiles({ u"a.txt"_s });
+    listFiles({ u"a.txt"_s });
     const ModeRow rows[] = {
         { "filesModeButton", true, true, true, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O),
             u"Files listed: 1"_s },
@@ -133,7 +120,7 @@ TEST_F(MainWindowTest, TheModeChoosesTheAddCommandsAndAChangeEmptiesTheList)
 // No keeps the list and the window's choice.
 TEST_F(MainWindowTest, EmptyingAListAsksFirst)
 {
-    addFiles({ u"a.txt"_s, u"b.txt"_s });
+    listFiles({ u"a.txt"_s, u"b.txt"_s });
     prompter->yesNoAnswer = false;
     action("clearAction")->trigger();
     QTest::mouseClick(child<QRadioButton>(u"foldersModeButton"_s), Qt::LeftButton);
@@ -171,28 +158,31 @@ QStringList useContextMenu(QWidget* owner, const QPoint& position, const QString
 
 TEST_F(MainWindowTest, ContextMenusOnRowsAndOnTheHeader)
 {
-    addFiles({ u"a.txt"_s });
+    listFiles({ u"a.txt"_s });
     auto* table = child<FileTableView>(u"fileTable"_s);
     const QPoint row = table->visualRect(table->model()->index(0, FileTableModel::NameColumn)).center();
     const QStringList offered = useContextMenu(table, row, localized("COPYNAME"));
-    for (const QString& text : { localized("OPENCONTAININGFOLDER"), localized("COPYNAME"), localized("COPYNEWNAME") })
+    for (const QString& text :
+        { localized("OPENCONTAININGFOLDER"), localized("COPYNAME"), localized("COPYNEWNAME") })
         EXPECT_TRUE(offered.contains(text)) << text.toStdString();
     EXPECT_TRUE(offered.contains(action("removeAction")->text()));
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"a.txt"_s);
 
-    const QString location = table->model()->headerData(FileTableModel::LocationColumn, Qt::Horizontal).toString();
+    const QString location
+        = table->model()->headerData(FileTableModel::LocationColumn, Qt::Horizontal).toString();
     useContextMenu(table->horizontalHeader(), QPoint(5, 5), location);
     EXPECT_TRUE(table->isColumnHidden(FileTableModel::LocationColumn));
     // Kept between runs: a new window hides it too.
     MainWindow again(&controller);
-    EXPECT_TRUE(again.findChild<FileTableView*>(u"fileTable"_s)->isColumnHidden(FileTableModel::LocationColumn));
+    EXPECT_TRUE(
+        again.findChild<FileTableView*>(u"fileTable"_s)->isColumnHidden(FileTableModel::LocationColumn));
     useContextMenu(table->horizontalHeader(), QPoint(5, 5), location);
     EXPECT_FALSE(table->isColumnHidden(FileTableModel::LocationColumn));
 }
 
 TEST_F(MainWindowTest, RemoveWithNothingSelectedPointsAtItsButtonElseTakesTheRows)
 {
-    addFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s, u"d.txt"_s });
+    listFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s, u"d.txt"_s });
     auto* attached = child<AttachedWindow>(u"attachedWindow"_s);
 
     action("removeAction")->trigger();
@@ -209,53 +199,34 @@ TEST_F(MainWindowTest, RemoveWithNothingSelectedPointsAtItsButtonElseTakesTheRow
     EXPECT_EQ(label("countLabel"), u"Files listed: 2"_s);
 }
 
-struct MoveRow {
-    QList<int> selection;
-    bool up;
-    bool down;
-};
-
-TEST_F(MainWindowTest, MoveCommandsFollowTheSelectionAndTheSelectionFollowsTheRows)
+// A header click sorts by its column, numbers within names by their value, and a second
+// click reverses; a move takes the list out of that order.
+TEST_F(MainWindowTest, TheHeaderSortsAndTheMoveCommandsFollowTheSelection)
 {
-    addFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s, u"d.txt"_s });
-    const MoveRow rows[] = {
-        { {}, false, false },
-        { { 0 }, false, true },
-        { { 3 }, true, false },
-        { { 1, 2 }, true, true },
-        { { 0, 3 }, false, false },
-    };
-    for (const MoveRow& row : rows) {
-        selectRows(row.selection);
-        EXPECT_EQ(action("moveUpAction")->isEnabled(), row.up) << row.selection.size();
-        EXPECT_EQ(action("moveDownAction")->isEnabled(), row.down) << row.selection.size();
-    }
-
-    clickHeader(FileTableModel::NameColumn);
-    selectRows({ 0, 1 });
-    action("moveDownAction")->trigger();
-    action("moveDownAction")->trigger();
-    EXPECT_EQ(listedNames(), QStringList({ u"c.txt"_s, u"d.txt"_s, u"a.txt"_s, u"b.txt"_s }));
-    EXPECT_EQ(selectedRows(), QList<int>({ 2, 3 }));
-    EXPECT_FALSE(action("moveDownAction")->isEnabled());
-    EXPECT_EQ(window.tableView()->horizontalHeader()->sortIndicatorSection(), -1)
-        << "the list is no longer in the order the header shows";
-}
-
-TEST_F(MainWindowTest, AHeaderClickSortsNumericallyAndASecondClickReverses)
-{
-    addFiles({ u"a10.txt"_s, u"b2.txt"_s, u"A9.txt"_s, u"a1.txt"_s });
+    listFiles({ u"a10.txt"_s, u"b2.txt"_s, u"A9.txt"_s, u"a1.txt"_s });
     QHeaderView* header = window.tableView()->horizontalHeader();
-
     clickHeader(FileTableModel::NameColumn);
     EXPECT_EQ(listedNames(), QStringList({ u"a1.txt"_s, u"A9.txt"_s, u"a10.txt"_s, u"b2.txt"_s }));
     EXPECT_EQ(header->sortIndicatorOrder(), Qt::AscendingOrder);
     clickHeader(FileTableModel::NameColumn);
-    EXPECT_EQ(listedNames(), QStringList({ u"b2.txt"_s, u"a10.txt"_s, u"A9.txt"_s, u"a1.txt"_s }));
-
     clickHeader(FileTableModel::IconColumn);
     EXPECT_EQ(listedNames(), QStringList({ u"b2.txt"_s, u"a10.txt"_s, u"A9.txt"_s, u"a1.txt"_s }));
     EXPECT_EQ(header->sortIndicatorSection(), FileTableModel::NameColumn) << "the icon column does not sort";
+
+    const std::tuple<QList<int>, bool, bool> rows[] = { { {}, false, false }, { { 0 }, false, true },
+        { { 3 }, true, false }, { { 1, 2 }, true, true }, { { 0, 3 }, false, false } };
+    for (const auto& [selection, up, down] : rows) {
+        selectRows(selection);
+        EXPECT_EQ(action("moveUpAction")->isEnabled(), up) << selection.size();
+        EXPECT_EQ(action("moveDownAction")->isEnabled(), down) << selection.size();
+    }
+    selectRows({ 0, 1 });
+    action("moveDownAction")->trigger();
+    action("moveDownAction")->trigger();
+    EXPECT_EQ(listedNames(), QStringList({ u"A9.txt"_s, u"a1.txt"_s, u"b2.txt"_s, u"a10.txt"_s }));
+    EXPECT_EQ(selectedRows(), QList<int>({ 2, 3 }));
+    EXPECT_FALSE(action("moveDownAction")->isEnabled());
+    EXPECT_EQ(header->sortIndicatorSection(), -1) << "the list is no longer in the order the header shows";
 }
 
 TEST_F(MainWindowTest, LocalFilesDroppedAreAddedInTheCurrentModeAndOtherDragsRefused)

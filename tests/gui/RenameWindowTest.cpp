@@ -1,7 +1,6 @@
 #include "GuiFixture.h"
 
 #include "core/list/StatusTexts.h"
-#include "core/log/RenameLogReader.h"
 #include "core/text/LocalizedStrings.h"
 #include "gui/engine/ActionTab.h"
 #include "gui/engine/ActionTabs.h"
@@ -16,12 +15,9 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QTabBar>
 #include <QTableView>
 #include <QTimer>
-#include <algorithm>
 
 using namespace tavrin;
 using namespace tavrin::test;
@@ -56,51 +52,21 @@ protected:
 
     void perform(ActionTab* page, const Step& step)
     {
-        if (step.text.isNull()) {
-            auto* button = page->findChild<QAbstractButton*>(QString::fromLatin1(step.name));
-            ASSERT_NE(button, nullptr) << step.name;
-            button->setFocus();
-            QTest::keyClick(button, Qt::Key_Space);
-            return;
-        }
-        auto* field = qobject_cast<QLineEdit*>(page->fieldForOption(QString::fromLatin1(step.name)));
-        ASSERT_NE(field, nullptr) << step.name;
-        field->setFocus();
-        field->selectAll();
-        QTest::keyClicks(field, step.text);
+        if (step.text.isNull())
+            press(part<QAbstractButton>(page, step.name));
+        else
+            typeInto(page->fieldForOption(QString::fromLatin1(step.name)), step.text);
     }
 
     void chooseUpperCaseOnTheTab()
     {
         ActionTab* page = showTab(tabs::General);
-        perform(page, { "generalOption0", QString() });
+        press(part<QAbstractButton>(page, "generalOption0"));
         auto* chooser = qobject_cast<QComboBox*>(page->fieldForOption(u"generalFileNameCase"_s));
         chooser->setFocus();
         QTest::keyClick(chooser, Qt::Key_End);
         QTest::keyClick(chooser, Qt::Key_Home);
         ASSERT_EQ(settings().generalFileNameCase(), 1);
-    }
-
-    bool clickAndWait(const QString& button, void (RenameController::*finished)())
-    {
-        return runAndWait(&rename(), finished, [&] {
-            QTest::mouseClick(child<QPushButton>(button), Qt::LeftButton);
-            return true;
-        });
-    }
-
-    bool previewAndWait()
-    {
-        return clickAndWait(u"previewActionButton"_s, &RenameController::previewFinished);
-    }
-    bool applyAndWait() { return clickAndWait(u"applyActionButton"_s, &RenameController::applyFinished); }
-
-    QStringList shownNewNames() const
-    {
-        QStringList names;
-        for (int row = 0; row < window.tableModel()->rowCount(); ++row)
-            names.append(newName(row));
-        return names;
     }
 
     QImage iconOf(int row) const
@@ -118,16 +84,15 @@ TEST_F(RenameWindowTest, PreviewRenameAndUndoTheBatch)
     chooseUpperCaseOnTheTab();
     EXPECT_FALSE(applyAction()->isEnabled()) << "nothing to rename before a preview";
 
-    ASSERT_TRUE(previewAndWait());
+    ASSERT_TRUE(clickPreviewAndWait());
     EXPECT_EQ(shownNewNames(),
         QStringList({ u"BEACH DAY.jpg"_s, u"NOTES.txt"_s, QLatin1String(status::NoChanges) }));
     EXPECT_TRUE(applyAction()->isEnabled());
     EXPECT_TRUE(label(u"timeLabel"_s).startsWith(u"Preview time: "_s));
     EXPECT_TRUE(progressLine().isEmpty()) << "a preview whose actions succeeded leaves no message";
-    EXPECT_TRUE(tree.exists(u"files/beach day.jpg"_s)) << "a preview changes nothing on disk";
     const QImage plainIcon = iconOf(1);
 
-    ASSERT_TRUE(applyAndWait());
+    ASSERT_TRUE(clickRenameAndWait());
     EXPECT_EQ(prompter->confirmations, 1);
     EXPECT_EQ(prompter->logQuestions, 0) << "the log folder is writable";
     EXPECT_EQ(listedNames(), QStringList({ u"BEACH DAY.jpg"_s, u"NOTES.txt"_s, u"README.md"_s }));
@@ -135,13 +100,11 @@ TEST_F(RenameWindowTest, PreviewRenameAndUndoTheBatch)
         QStringList({ QLatin1String(status::RenamingOk), QLatin1String(status::RenamingOk),
             QLatin1String(status::NoChanges) }));
     EXPECT_NE(iconOf(1), plainIcon) << "the row wears a badge after the rename";
-    EXPECT_EQ(iconOf(1), ItemIconCache().icon(list().shownItems()[1]).pixmap(QSize(16, 16)).toImage());
     EXPECT_FALSE(applyAction()->isEnabled()) << "a second rename needs a new preview";
     EXPECT_EQ(label(u"countLabel"_s), u"Files renamed: 2"_s);
     const QString logPath = rename().lastApplyOutcome().logPath;
     EXPECT_EQ(progressLine(), u"Log saved as "_s + logPath);
     EXPECT_TRUE(label(u"timeLabel"_s).startsWith(u"Renaming time: "_s));
-    ASSERT_EQ(readLogEntries(logPath)->entries.size(), 2);
 
     QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
     auto* sheet = window.findChild<UndoSheetController*>();
@@ -154,34 +117,12 @@ TEST_F(RenameWindowTest, PreviewRenameAndUndoTheBatch)
         return true;
     }));
     EXPECT_EQ(tree.read(u"files/beach day.jpg"_s), QByteArray("beach day.jpg"));
-    EXPECT_EQ(tree.read(u"files/notes.txt"_s), QByteArray("notes.txt"));
-    EXPECT_FALSE(QFile::exists(logPath));
     EXPECT_TRUE(prompter->alerts.first().message.contains(u"Items given back their old names: 2"_s));
-    EXPECT_TRUE(label(u"timeLabel"_s).startsWith(u"Undo time: "_s));
     // Regression: the rows kept the undone names with their "Renaming (OK)" badges, and the
     // next preview said "File Not Found" on every one of them.
     EXPECT_EQ(listedNames(), QStringList({ u"beach day.jpg"_s, u"notes.txt"_s, u"README.md"_s }));
     EXPECT_EQ(shownNewNames(), QStringList({ QString(), QString(), QLatin1String(status::NoChanges) }));
     EXPECT_EQ(progressLine(), localized("ITEMSRESTORED").arg(2));
-}
-
-TEST_F(RenameWindowTest, RenameAnsweredNoRenamesNothing)
-{
-    listFiles({ u"a.txt"_s });
-    chooseUpperCase();
-    ASSERT_TRUE(previewAndWait());
-    prompter->confirmAnswer = false;
-    QSignalSpy applied(&rename(), &RenameController::applyFinished);
-
-    QTest::mouseClick(child<QPushButton>(u"applyActionButton"_s), Qt::LeftButton);
-    QCoreApplication::processEvents();
-
-    EXPECT_EQ(prompter->confirmations, 1);
-    EXPECT_FALSE(list().isExecuting());
-    EXPECT_EQ(applied.count(), 0);
-    EXPECT_TRUE(tree.exists(u"files/a.txt"_s));
-    EXPECT_EQ(shownNewNames(), QStringList({ u"A.txt"_s }));
-    EXPECT_TRUE(applyAction()->isEnabled()) << "the proposals are still there to apply";
 }
 
 struct LogQuestionRow {
@@ -203,9 +144,9 @@ TEST_F(RenameWindowTest, AnUnwritableLogFolderAsksWhetherToRenameWithoutALog)
     controller.session().setLogFolderPath(tree.file(u"blocker"_s) + u"/Logs"_s);
     chooseUpperCase();
     for (const LogQuestionRow& row : rows) {
-        ASSERT_TRUE(previewAndWait());
+        ASSERT_TRUE(clickPreviewAndWait());
         prompter->continueAnswer = row.continueAnswer;
-        ASSERT_TRUE(applyAndWait());
+        ASSERT_TRUE(clickRenameAndWait());
         EXPECT_TRUE(prompter->logQuestionOnGuiThread) << "a dialog is never opened from the worker";
         EXPECT_TRUE(tree.exists(u"files/"_s + QString::fromLatin1(row.nameOnDisk)));
         EXPECT_EQ(newName(0), row.newName);
@@ -224,43 +165,6 @@ TEST_F(RenameWindowTest, PreviewWithAnEmptyListPointsAtThePreviewButton)
     EXPECT_EQ(attached->text(), localized("NOITEMSTOPREVIEW"));
     EXPECT_EQ(attached->anchor(), window.renamePanel()->previewButton());
     EXPECT_EQ(executing.count(), 0) << "no preview was started";
-    EXPECT_TRUE(prompter->alerts.isEmpty());
-}
-
-struct TabRow {
-    int tab;
-    QStringList names;
-    QList<Step> steps;
-    QStringList expected;
-};
-
-TEST_F(RenameWindowTest, EachTabPreviewsWhatItsInputsSay)
-{
-    const TabRow rows[] = {
-        { tabs::ReplaceRemove, { u"a-b-c.txt"_s, u"x-y.jpg"_s },
-            { { "replaceRemoveThis", u"-"_s }, { "replaceRemoveWith", u"_"_s },
-                { "isReplaceRemoveAllOccurrence", {} } },
-            { u"a_b_c.txt"_s, u"x_y.jpg"_s } },
-        { tabs::InsertDelete, { u"a_b_c.txt"_s, u"one_two.md"_s },
-            { { "insertDeleteInsert", u"X"_s }, { "insertPlace4", {} },
-                { "insertDeleteInsertAtAfterText", u"_"_s },
-                { "insertDeleteInsertAtAfterOccurrence", u"2"_s } },
-            { u"a_b_Xc.txt"_s, QLatin1String(status::NoChanges) } },
-        { tabs::AlphaNumeric, { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s },
-            { { "alphaNumericNumericStartWith", u"9"_s }, { "isAlphaNumericSufix", {} },
-                { "isAlphaNumericSeperator", {} }, { "alphaNumericSeperator", u"-"_s },
-                { "alphaNumericPaddingMask", u"00"_s } },
-            { u"a-09.jpg"_s, u"b-10.jpg"_s, u"c-11.jpg"_s } },
-    };
-    for (const TabRow& row : rows) {
-        list().clear();
-        listFiles(row.names);
-        ActionTab* page = showTab(row.tab);
-        for (const Step& step : row.steps)
-            perform(page, step);
-        ASSERT_TRUE(previewAndWait());
-        EXPECT_EQ(shownNewNames(), row.expected) << row.tab;
-    }
     EXPECT_TRUE(prompter->alerts.isEmpty());
 }
 
@@ -312,7 +216,7 @@ TEST_F(RenameWindowTest, CollidingProposalsAreMarkedCountedAndAskedAbout)
     settings().setSelectedTab(tabs::General);
     settings().chooseGeneralOption(8);
     settings().setGeneralRemoveAfterString(u"-"_s);
-    ASSERT_TRUE(previewAndWait());
+    ASSERT_TRUE(clickPreviewAndWait());
     EXPECT_EQ(progressLine(), localized("CONFLICTSCOUNT").arg(2));
     const QAbstractItemModel* model = window.tableModel();
     const auto tooltip = [&](int row) { return model->index(row, 1).data(Qt::ToolTipRole).toString(); };
@@ -321,12 +225,15 @@ TEST_F(RenameWindowTest, CollidingProposalsAreMarkedCountedAndAskedAbout)
     FileSystemItem unmarked = list().shownItems()[0];
     ASSERT_TRUE(unmarked.isConflict());
     unmarked.setConflict(false);
-    EXPECT_NE(iconOf(0), ItemIconCache().icon(unmarked).pixmap(QSize(16, 16)).toImage()) << "the warning badge";
+    EXPECT_NE(iconOf(0), ItemIconCache().icon(unmarked).pixmap(QSize(16, 16)).toImage())
+        << "the warning badge";
 
     prompter->confirmAnswer = false;
     QTest::mouseClick(child<QPushButton>(u"applyActionButton"_s), Qt::LeftButton);
     EXPECT_EQ(prompter->lastConflicts, 2) << "Rename says how many proposals collide";
+    EXPECT_FALSE(list().isExecuting()) << "answered No";
     EXPECT_TRUE(tree.exists(u"files/a-1.txt"_s));
+    EXPECT_TRUE(applyAction()->isEnabled()) << "the proposals are still there to apply";
 }
 
 TEST_F(RenameWindowTest, TheNumberingTabSaysWhenTheMaskCutsTheNumbers)
@@ -357,7 +264,7 @@ TEST_F(RenameWindowTest, TheWindowKeepsRunningWhileALongPreviewWorks)
     settings().setSelectedTab(tabs::General);
     settings().chooseGeneralOption(0);
     settings().setGeneralFileNameCase(3);
-    ASSERT_TRUE(previewAndWait());
+    ASSERT_TRUE(clickPreviewAndWait());
     ASSERT_TRUE(applyAction()->isEnabled());
     chooseUpperCase();
     int ticksWhileExecuting = 0;
@@ -388,11 +295,7 @@ TEST_F(RenameWindowTest, TheWindowKeepsRunningWhileALongPreviewWorks)
     // Regression: Rename stayed enabled and applied the earlier preview's proposals to the
     // rows the cancelled one had not reached.
     EXPECT_FALSE(applyAction()->isEnabled()) << "Rename waits for a preview that finishes";
-    const std::vector<FileSystemItem>& items = list().shownItems();
-    const auto stale = std::count_if(items.begin(), items.end(), [](const FileSystemItem& item) {
-        return item.newFilename().startsWith(u"File "_s);
-    });
-    EXPECT_EQ(stale, 0) << "no row keeps the proper-case proposal of the earlier preview";
+    EXPECT_TRUE(newNames().filter(u"File "_s).isEmpty()) << "no row keeps the earlier preview's proper case";
     EXPECT_TRUE(previewAction()->isEnabled());
     EXPECT_FALSE(child<QAction>(u"cancelAction"_s)->isEnabled());
 }

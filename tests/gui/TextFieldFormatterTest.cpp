@@ -1,11 +1,9 @@
 #include "gui/ui/TextFieldFormatter.h"
 
-#include <QLineEdit>
-#include <QSignalSpy>
-#include <QTest>
-#include <gtest/gtest.h>
+#include "GuiFixture.h"
 
 using namespace tavrin;
+using namespace tavrin::test;
 using Kind = TextFieldFormatter::Kind;
 
 namespace {
@@ -69,48 +67,39 @@ protected:
     std::unique_ptr<QSignalSpy> edits;
 };
 
-TEST_F(FormattedFieldTest, TheEditSignalCarriesTheFilteredText)
-{
-    attach(Kind::Letters);
-    QTest::keyClicks(&field, QStringLiteral("Ab"));
-    EXPECT_EQ(field.text(), QStringLiteral("ab"));
-    EXPECT_EQ(lastEdit(), QStringLiteral("ab"));
-    EXPECT_EQ(edits->size(), 2);
-}
-
-TEST_F(FormattedFieldTest, AStandInValueIsReplacedByTheNextKey)
+// A stand-in value is selected, so the next key replaces it.
+TEST_F(FormattedFieldTest, TheEditSignalCarriesTheFilteredTextAndAStandInGoesAtTheNextKey)
 {
     attach(Kind::PositiveNumber);
-    QTest::keyClicks(&field, QStringLiteral("5"));
+    QTest::keyClicks(&field, u"5"_s);
     QTest::keyClick(&field, Qt::Key_Backspace);
-    EXPECT_EQ(field.text(), QStringLiteral("1"));
-    EXPECT_EQ(field.selectedText(), QStringLiteral("1"));
-    EXPECT_EQ(lastEdit(), QStringLiteral("1"));
-
-    QTest::keyClicks(&field, QStringLiteral("3"));
-    EXPECT_EQ(field.text(), QStringLiteral("3")) << "not 13";
+    EXPECT_EQ(field.text(), u"1"_s);
+    EXPECT_EQ(field.selectedText(), u"1"_s);
+    EXPECT_EQ(lastEdit(), u"1"_s);
+    EXPECT_EQ(edits->size(), 2);
+    QTest::keyClicks(&field, u"3x"_s);
+    EXPECT_EQ(field.text(), u"3"_s) << "not 13";
 }
 
 TEST_F(FormattedFieldTest, ARefusedCharacterLeavesTheCursorWhereTheUserTyped)
 {
     attach(Kind::PositiveNumber);
-    QTest::keyClicks(&field, QStringLiteral("1234"));
+    QTest::keyClicks(&field, u"1234"_s);
     field.setCursorPosition(2);
-    QTest::keyClicks(&field, QStringLiteral("x9"));
-    EXPECT_EQ(field.text(), QStringLiteral("12934"));
+    QTest::keyClicks(&field, u"x9"_s);
+    EXPECT_EQ(field.text(), u"12934"_s);
     EXPECT_EQ(field.cursorPosition(), 3);
 }
 
 TEST_F(FormattedFieldTest, OnlyTheUsersEditsAreFilteredAndTheLengthIsLimited)
 {
     attach(Kind::PositiveNumber, 3);
-    field.setText(QStringLiteral("0"));
-    EXPECT_EQ(field.text(), QStringLiteral("0")) << "a stored value shows as the action will use it";
+    field.setText(u"0"_s);
+    EXPECT_EQ(field.text(), u"0"_s) << "a stored value shows as the action will use it";
     EXPECT_TRUE(edits->isEmpty());
-
     field.selectAll();
-    QTest::keyClicks(&field, QStringLiteral("98765"));
-    EXPECT_EQ(field.text(), QStringLiteral("987"));
+    QTest::keyClicks(&field, u"98765"_s);
+    EXPECT_EQ(field.text(), u"987"_s);
 }
 
 } // namespace

@@ -17,7 +17,6 @@ tavrin_add_test(test_gui_widgets GUI SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/LivePreviewSheetTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageBoxPrompterTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/OutsideItemsTest.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/PasteboardItemsSheetTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PreferencesSheetTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TextFieldFormatterTest.cpp)
 tavrin_add_test(test_gui_audio_tab GUI
