@@ -2,7 +2,6 @@
 
 #include "core/formats/KeyedArchive.h"
 #include "core/profiles/ProfileFile.h"
-#include "core/text/LocalizedStrings.h"
 #include "gui/app/DocumentOpener.h"
 #include "gui/control/ActivityStatus.h"
 #include "gui/control/LivePreview.h"
@@ -26,6 +25,15 @@ protected:
     bool livePreviewAndWait(const std::function<bool()>& trigger)
     {
         return runAndWait(&rename(), &RenameController::livePreviewFinished, trigger);
+    }
+
+    // Turns the live preview on and waits for the preview that starts with it.
+    bool startLivePreview()
+    {
+        return livePreviewAndWait([&] {
+            rename().setLivePreview(true);
+            return true;
+        });
     }
 };
 
@@ -136,10 +144,7 @@ TEST_F(SessionTest, RapidChangesCollapseIntoOneLivePreviewAfterTheLast)
 {
     listFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s });
     chooseUpperCase();
-    ASSERT_TRUE(livePreviewAndWait([&] {
-        rename().setLivePreview(true);
-        return true;
-    }));
+    ASSERT_TRUE(startLivePreview());
     QSignalSpy previews(&rename(), &RenameController::livePreviewFinished);
     QElapsedTimer sinceLastChange;
     for (const int caseCode : { 2, 3, 1 }) {
@@ -195,10 +200,7 @@ TEST_F(SessionTest, NoLivePreviewWhenOffOrEmptyAndOneAfterAWholeProfile)
     chooseUpperCase();
     ASSERT_TRUE(session().saveProfile(profile));
     settings().setGeneralFileNameCase(2);
-    ASSERT_TRUE(livePreviewAndWait([&] {
-        rename().setLivePreview(true);
-        return true;
-    }));
+    ASSERT_TRUE(startLivePreview());
     QSignalSpy previews(&rename(), &RenameController::livePreviewFinished);
     ASSERT_EQ(session().setCurrentSettings(profile).result, ProfileLoadResult::Loaded);
     ASSERT_TRUE(previews.wait(kWaitMilliseconds));
@@ -213,10 +215,7 @@ TEST_F(SessionTest, AFullPreviewDisarmsTheWaitingLivePreview)
 {
     listFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s });
     rename().setLivePreviewCoverage(false, u"1"_s);
-    ASSERT_TRUE(livePreviewAndWait([&] {
-        rename().setLivePreview(true);
-        return true;
-    }));
+    ASSERT_TRUE(startLivePreview());
     QSignalSpy livePreviews(&rename(), &RenameController::livePreviewFinished);
     chooseUpperCase();
     ASSERT_TRUE(rename().livePreview().isTimerActive());
