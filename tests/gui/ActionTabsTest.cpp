@@ -47,20 +47,10 @@ protected:
     void show(Kind kind)
     {
         settings.resetToStartValues();
-        switch (kind) {
-        case Kind::Sequence:
-            tab = std::make_unique<SequenceTab>(settings);
-            break;
-        case Kind::InsertDelete:
-            tab = std::make_unique<InsertDeleteTab>(settings);
-            break;
-        case Kind::ReplaceRemove:
-            tab = std::make_unique<ReplaceRemoveTab>(settings);
-            break;
-        case Kind::General:
-            tab = std::make_unique<GeneralTab>(settings);
-            break;
-        }
+        const std::function<ActionTab*()> makers[]
+            = { [&] { return new SequenceTab(settings); }, [&] { return new InsertDeleteTab(settings); },
+                  [&] { return new ReplaceRemoveTab(settings); }, [&] { return new GeneralTab(settings); } };
+        tab.reset(makers[static_cast<int>(kind)]());
         tab->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(tab.get()));
     }
