@@ -86,6 +86,7 @@ TEST_F(PasteboardItemsSheetTest, ListsAndCountsTheItemsAndRemovesRowsUntilNoneIs
 {
     EXPECT_EQ(countLine(), u"Items: 5 (files: 3, folders: 2)"_s);
     EXPECT_EQ(sheet->paths(), paths);
+    EXPECT_FALSE(sheet->isFolders() || sheet->isIncludeSubFolders()) << "as the window's choice";
     EXPECT_EQ(sheet->model()->index(3, PastedItemsModel::NameColumn).data().toString(), u"Live"_s);
     EXPECT_EQ(
         sheet->model()->index(3, PastedItemsModel::LocationColumn).data().toString(), tree.path(u"Music"_s));
@@ -108,16 +109,6 @@ TEST_F(PasteboardItemsSheetTest, ListsAndCountsTheItemsAndRemovesRowsUntilNoneIs
     EXPECT_EQ(countLine(), u"Items: 0 (files: 0, folders: 0)"_s);
     EXPECT_FALSE(add->isEnabled());
     EXPECT_FALSE(remove->isEnabled());
-}
-
-TEST_F(PasteboardItemsSheetTest, AnswersTheChosenOptions)
-{
-    EXPECT_FALSE(sheet->isFolders() || sheet->isIncludeSubFolders());
-    part<QRadioButton>(sheet.get(), "renameFoldersButton")->click();
-    part<QCheckBox>(sheet.get(), "includeSubFoldersBox")->click();
-    QTest::keyClick(sheet->table(), Qt::Key_Return);
-    EXPECT_EQ(sheet->result(), QDialog::Accepted);
-    EXPECT_TRUE(sheet->isFolders() && sheet->isIncludeSubFolders());
 }
 
 QString addCountAfterCounting(const QLabel* label)
@@ -144,6 +135,12 @@ TEST(PasteboardItemsSheetStart, StartsFromTheWindowsChoiceAndCountsWhatEachChoic
     EXPECT_EQ(addCountAfterCounting(count), localized("PASTEDWOULDADDFILES").arg(0));
     part<QRadioButton>(&sheet, "renameFoldersButton")->click();
     EXPECT_EQ(addCountAfterCounting(count), localized("PASTEDWOULDADDFOLDERS").arg(1));
+    sheet.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&sheet));
+    QTest::keyClick(sheet.table(), Qt::Key_Return);
+    EXPECT_EQ(sheet.result(), QDialog::Accepted);
+    EXPECT_TRUE(sheet.isFolders() && !sheet.isIncludeSubFolders())
+        << "the sheet answers the choices made in it";
 }
 
 } // namespace

@@ -66,21 +66,18 @@ TEST_F(RenameWindowTest, PreviewRenameAndUndoTheBatch)
 
     ASSERT_TRUE(clickRenameAndWait());
     EXPECT_EQ(prompter->confirmations, 1);
-    EXPECT_EQ(prompter->logQuestions, 0) << "the log folder is writable";
     EXPECT_EQ(listedNames(), QStringList({ u"BEACH DAY.jpg"_s, u"NOTES.txt"_s, u"README.md"_s }));
     EXPECT_EQ(newName(0), QLatin1String(status::RenamingOk));
     EXPECT_NE(iconOf(1), plainIcon) << "the row wears a badge after the rename";
     EXPECT_FALSE(applyAction()->isEnabled()) << "a second rename needs a new preview";
     EXPECT_EQ(label(u"countLabel"_s), u"Files renamed: 2"_s);
-    const QString logPath = rename().lastApplyOutcome().logPath;
-    EXPECT_EQ(progressLine(), u"Log saved as "_s + logPath);
+    EXPECT_EQ(progressLine(), u"Log saved as "_s + rename().lastApplyOutcome().logPath);
     EXPECT_TRUE(label(u"timeLabel"_s).startsWith(u"Renaming time: "_s));
 
     QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
     auto* sheet = window.findChild<UndoSheetController*>();
     ASSERT_NE(sheet, nullptr);
     ASSERT_EQ(sheet->model()->rowCount(), 1);
-    EXPECT_EQ(sheet->model()->log(0).path, logPath);
     sheet->table()->selectRow(0);
     ASSERT_TRUE(runAndWait(sheet, &UndoSheetController::undoFinished, [&] {
         QTest::mouseClick(part<QPushButton>(sheet, "undoButton"), Qt::LeftButton);
