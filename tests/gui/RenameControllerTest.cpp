@@ -27,6 +27,8 @@ TEST_F(RenameControllerTest, APreviewRunsWithTheOptionsOfItsStart)
 
 TEST_F(RenameControllerTest, HasFilesForRenamingFollowsPreviewApplyAndClear)
 {
+    ASSERT_FALSE(rename().preview().has_value());
+    EXPECT_FALSE(list().isExecuting()) << "an empty list is the window's hint, not a run";
     listFiles({ u"A.txt"_s, u"b.txt"_s });
     QSignalSpy changed(&rename(), &RenameController::hasFilesForRenamingChanged);
     EXPECT_FALSE(rename().apply(nullptr)) << "nothing proposed yet";

@@ -150,21 +150,7 @@ TEST_F(UndoSheetTest, UndoGivesTheNamesBackReportsAndMovesToTheNextLog)
     EXPECT_TRUE(child<QLabel>(u"timeLabel"_s)->text().startsWith(u"Undo time: "_s));
 }
 
-TEST_F(UndoSheetTest, UndoingTheLastRowSelectsTheRowAboveAndTheLastLogNothing)
-{
-    openSheet();
-    sheet->table()->selectRow(2);
-    ASSERT_TRUE(undoAndWait());
-    EXPECT_EQ(selectedRow(), 1);
-    EXPECT_EQ(sheet->currLogFilePath(), middle);
-    ASSERT_TRUE(undoAndWait());
-    ASSERT_TRUE(undoAndWait());
-    EXPECT_EQ(selectedRow(), -1);
-    EXPECT_TRUE(sheet->currLogFilePath().isEmpty());
-    EXPECT_EQ(text("logCountLabel"), u"Logs: 0"_s);
-}
-
-TEST_F(UndoSheetTest, DeleteAnsweredNoKeepsTheLogAndYesRemovesIt)
+TEST_F(UndoSheetTest, DeleteAsksFirstAndUndoMovesTheSelectionToTheNextLog)
 {
     openSheet();
     sheet->table()->selectRow(1);
@@ -183,6 +169,15 @@ TEST_F(UndoSheetTest, DeleteAnsweredNoKeepsTheLogAndYesRemovesIt)
     EXPECT_EQ(sheet->currLogFilePath(), oldest) << "the row below moved up and is selected";
     EXPECT_TRUE(tree.exists(u"d/P"_s)) << "deleting a log undoes nothing";
     EXPECT_TRUE(prompter->alerts.isEmpty());
+
+    // Undoing the last row selects the row above, and the last log leaves nothing selected.
+    ASSERT_TRUE(undoAndWait());
+    EXPECT_EQ(selectedRow(), 0);
+    EXPECT_EQ(sheet->currLogFilePath(), newest);
+    ASSERT_TRUE(undoAndWait());
+    EXPECT_EQ(selectedRow(), -1);
+    EXPECT_TRUE(sheet->currLogFilePath().isEmpty());
+    EXPECT_EQ(text("logCountLabel"), u"Logs: 0"_s);
 }
 
 // A log of another version changes nothing; one without entries is told about and only
