@@ -1,99 +1,68 @@
 #include "gui/engine/ActionTabs.h"
-#include "core/profiles/Settings.h"
-#include "core/profiles/Tabs.h"
-#include "core/text/LocalizedStrings.h"
+
+#include "GuiFixture.h"
 #include "gui/engine/GeneralTab.h"
 #include "gui/engine/InsertDeleteTab.h"
 #include "gui/engine/ReplaceRemoveTab.h"
 #include "gui/engine/SequenceTab.h"
+#include "gui/ui/TextFieldFormatter.h"
 
-#include <QAbstractButton>
-#include <QButtonGroup>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QTabBar>
-#include <QTest>
-#include <functional>
-#include <gtest/gtest.h>
-#include <memory>
 
 using namespace tavrin;
-using namespace Qt::StringLiterals;
+using namespace tavrin::test;
 
 namespace {
 
 enum class Kind { Sequence, InsertDelete, ReplaceRemove, General };
 
-std::unique_ptr<ActionTab> makeTab(Kind kind, Settings& settings)
-{
-    switch (kind) {
-    case Kind::Sequence:
-        return std::make_unique<SequenceTab>(settings);
-    case Kind::InsertDelete:
-        return std::make_unique<InsertDeleteTab>(settings);
-    case Kind::ReplaceRemove:
-        return std::make_unique<ReplaceRemoveTab>(settings);
-    case Kind::General:
-        return std::make_unique<GeneralTab>(settings);
-    }
-    return nullptr;
-}
+// Every input of each tab by its option, in the order of Kind.
+const QList<const char*> kInputs[] = {
+    { "alphaNumericNumericStartWith", "alphaNumericAlphabeticStartWith", "alphaNumericIncrementBy",
+        "alphaNumericDecrementBy", "isAlphaNumericResetSequenceOnEachFolder", "isAlphaNumericPrefix",
+        "isAlphaNumericSufix", "isAlphaNumericSeperator", "alphaNumericSeperator",
+        "alphaNumericPaddingMask" },
+    { "insertDeleteInsert", "insertDeleteAtCharacterPositions", "insertDeleteInsertAtPostionDirection",
+        "insertDeleteInsertAtBeforeText", "insertDeleteInsertAtBeforeOccurrence",
+        "insertDeleteInsertAtAfterText", "insertDeleteInsertAtAfterOccurrence",
+        "insertDeleteNumberOfCharacters", "insertDeleteFromCharacterPosition",
+        "isInsertDeleteDeleteFromBackWard" },
+    { "replaceRemoveThis", "replaceRemoveWith", "isReplaceRemoveCaseSensitive",
+        "replaceRemoveStartFromCharacter", "replaceRemovePositionDirection", "isReplaceRemoveAllOccurrence",
+        "replaceRemoveStartOnOccurrence", "replaceRemoveOccuranceCount" },
+    { "generalFileNameCase", "generalExtensionCase", "generalChangeExtension", "generalSwapSeperator",
+        "generalSwapPosition", "generalRemoveAfterString", "generalRemoveAfterStringOccurrence",
+        "generalRemoveFromString", "generalRemoveFromStringOccurrence", "generalFilenameMask",
+        "generalConvertWindowsCompatibleString" },
+};
 
-// One action tab shown on its own over settings at their start values, with the ways a user
-// reaches its inputs.
+// The inputs that no choice of their tab disables.
+const QList<const char*> kAlwaysEnabled = { "isAlphaNumericResetSequenceOnEachFolder", "isAlphaNumericPrefix",
+    "isAlphaNumericSufix", "alphaNumericPaddingMask", "isReplaceRemoveCaseSensitive",
+    "replaceRemoveStartFromCharacter", "replaceRemovePositionDirection" };
+
+// One action tab shown on its own over settings at their start values.
 class ActionTabTest : public ::testing::Test {
 protected:
     void show(Kind kind)
     {
         settings.resetToStartValues();
-        tab = makeTab(kind, settings);
+        const std::function<ActionTab*()> makers[]
+            = { [&] { return new SequenceTab(settings); }, [&] { return new InsertDeleteTab(settings); },
+                  [&] { return new ReplaceRemoveTab(settings); }, [&] { return new GeneralTab(settings); } };
+        tab.reset(makers[static_cast<int>(kind)]());
         tab->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(tab.get()));
     }
 
-    QAbstractButton* button(const QString& objectName) const
-    {
-        auto* found = tab->findChild<QAbstractButton*>(objectName);
-        EXPECT_NE(found, nullptr) << objectName.toStdString();
-        return found;
-    }
-
-    // A wide button only answers a mouse click on its indicator and text; the space bar
-    // presses it wherever it is.
-    void click(const QString& objectName) const
-    {
-        QAbstractButton* pressed = button(objectName);
-        pressed->setFocus();
-        QTest::keyClick(pressed, Qt::Key_Space);
-    }
+    QAbstractButton* button(const QString& name) const { return part<QAbstractButton>(tab.get(), name); }
+    void click(const QString& name) const { press(button(name)); }
 
     QWidget* field(const char* optionKey) const
     {
         QWidget* found = tab->fieldForOption(QString::fromLatin1(optionKey));
         EXPECT_NE(found, nullptr) << optionKey;
         return found;
-    }
-
-    // What an input shows: a field its text, a check box its tick, a chooser its index.
-    QVariant shown(const char* optionKey) const
-    {
-        QWidget* input = field(optionKey);
-        if (auto* line = qobject_cast<QLineEdit*>(input))
-            return line->text();
-        if (auto* box = qobject_cast<QCheckBox*>(input))
-            return box->isChecked();
-        return qobject_cast<QComboBox*>(input)->currentIndex();
-    }
-
-    // Replaces the field's text by typing, as a user who selected it all would.
-    void typeInto(const char* optionKey, const QString& text) const
-    {
-        auto* line = qobject_cast<QLineEdit*>(field(optionKey));
-        line->setFocus();
-        line->selectAll();
-        QTest::keyClicks(line, text);
     }
 
     // Picks an item with the keyboard, which is how a choice reports a user's pick.
@@ -118,75 +87,55 @@ QStringList numbered(const QString& prefix, int count)
     return names;
 }
 
-struct ChoiceGroup {
-    Kind kind;
-    const char* indexKey;
-    QStringList buttons; // in the order of the index
-    QStringList mirrors; // the mirror boolean of each button
-};
-
-TEST_F(ActionTabTest, EveryChoiceSetsItsIndexAndExactlyItsMirror)
+// A button chooses its index of its group, and a choice made elsewhere checks its button;
+// the settings set the mirror booleans of a group with its index.
+TEST_F(ActionTabTest, EachRadioButtonStandsForItsIndexOfItsGroup)
 {
-    const ChoiceGroup groups[] = {
+    const std::tuple<Kind, const char*, QStringList> groups[] = {
         { Kind::Sequence, "alphaNumericNumericAlphabeticIndex",
-            { u"sequenceNumeric"_s, u"sequenceAlphabetic"_s },
-            { u"isAlphaNumericNumeric"_s, u"isAlphaNumericAlphabetic"_s } },
+            { u"sequenceNumeric"_s, u"sequenceAlphabetic"_s } },
         { Kind::Sequence, "alphaNumericIncrementDecrementIndex",
-            { u"sequenceIncrement"_s, u"sequenceDecrement"_s },
-            { u"isAlphaNumericIncrement"_s, u"isAlphaNumericDecrement"_s } },
-        { Kind::InsertDelete, "insertDeleteIndex", { u"insertMode"_s, u"deleteMode"_s },
-            { u"isInsertDeleteInsert"_s, u"isInsertDeleteDelete"_s } },
-        { Kind::InsertDelete, "insertDeleteInsertOptionIndex", numbered(u"insertPlace"_s, 5),
-            { u"isInsertDeleteInsertAtBeginning"_s, u"isInsertDeleteInsertAtEnd"_s,
-                u"isInsertDeleteInsertAtPosition"_s, u"isInsertDeleteInsertAtBeforeText"_s,
-                u"isInsertDeleteInsertAtAfterText"_s } },
+            { u"sequenceIncrement"_s, u"sequenceDecrement"_s } },
+        { Kind::InsertDelete, "insertDeleteIndex", { u"insertMode"_s, u"deleteMode"_s } },
+        { Kind::InsertDelete, "insertDeleteInsertOptionIndex", numbered(u"insertPlace"_s, 5) },
         { Kind::ReplaceRemove, "removeReplaceIndex",
-            { u"replaceMode"_s, u"removeMode"_s, u"removeCharactersMode"_s },
-            { u"isReplaceRemoveReplace"_s, u"isReplaceRemoveRemove"_s,
-                u"isReplaceRemoveRemoveCharacters"_s } },
-        { Kind::General, "generalOptionIndex", numbered(u"generalOption"_s, 12),
-            { u"isGeneralConvertFilenameCase"_s, u"isGeneralConvertExtension"_s,
-                u"isGeneralRemoveExtension"_s, u"isGeneralChangeExtension"_s, u"isGeneralReverseFileName"_s,
-                u"isGeneralRemoveSpaces"_s, u"isGeneralSwapFromSeperator"_s, u"isGeneralSwapFromPostion"_s,
-                u"isGeneralRemoveAfterString"_s, u"isGeneralRemoveFromString"_s, u"isGeneralFilenameMask"_s,
-                u"isGeneralConvertWindowsCompatible"_s } },
+            { u"replaceMode"_s, u"removeMode"_s, u"removeCharactersMode"_s } },
+        { Kind::General, "generalOptionIndex", numbered(u"generalOption"_s, 12) },
     };
-    for (const ChoiceGroup& group : groups) {
-        show(group.kind);
-        for (auto chosen = group.buttons.size() - 1; chosen >= 0; --chosen) {
-            click(group.buttons[chosen]);
-            EXPECT_EQ(settings.property(group.indexKey).toInt(), chosen) << group.indexKey;
-            for (qsizetype mirror = 0; mirror < group.mirrors.size(); ++mirror)
-                EXPECT_EQ(settings.property(group.mirrors[mirror].toLatin1()).toBool(), mirror == chosen)
-                    << group.buttons[chosen].toStdString() << " " << group.mirrors[mirror].toStdString();
+    for (const auto& [kind, indexKey, buttons] : groups) {
+        show(kind);
+        for (auto chosen = buttons.size() - 1; chosen >= 0; --chosen) {
+            click(buttons[chosen]);
+            EXPECT_EQ(settings.property(indexKey).toInt(), chosen) << buttons[chosen].toStdString();
+        }
+        for (qsizetype chosen = 1; chosen < buttons.size(); ++chosen) {
+            settings.chooseRadioOption(QString::fromLatin1(indexKey), int(chosen));
+            EXPECT_TRUE(button(buttons[chosen])->isChecked()) << buttons[chosen].toStdString();
+            EXPECT_FALSE(button(buttons[chosen - 1])->isChecked()) << buttons[chosen].toStdString();
         }
     }
+    // The action counts down when both directions are set, and the tab says so.
+    show(Kind::Sequence);
+    settings.chooseIncrementOrDecrement(1);
+    settings.setIsAlphaNumericIncrement(true);
+    EXPECT_TRUE(button(u"sequenceDecrement"_s)->isChecked());
+    // A profile with no mode set runs no action; no button claims otherwise.
+    show(Kind::ReplaceRemove);
+    settings.setIsReplaceRemoveReplace(false);
+    for (const char* mode : { "replaceMode", "removeMode", "removeCharactersMode" })
+        EXPECT_FALSE(button(QString::fromLatin1(mode))->isChecked()) << mode;
 }
 
 struct EnabledRow {
     Kind kind;
     QStringList clicks;
     QList<std::pair<const char*, bool>> switches;
-    QList<const char*> enabled; // among the inputs the choices above rule
+    QList<const char*> enabled; // besides the ones always enabled
 };
 
 // Only the inputs of what is chosen are enabled, so the tab shows what the next preview uses.
 TEST_F(ActionTabTest, OnlyTheInputsOfTheChosenOptionsAreEnabled)
 {
-    const QList<const char*> ruled[] = {
-        { "alphaNumericNumericStartWith", "alphaNumericAlphabeticStartWith", "alphaNumericIncrementBy",
-            "alphaNumericDecrementBy", "isAlphaNumericSeperator", "alphaNumericSeperator" },
-        { "insertDeleteInsert", "insertDeleteAtCharacterPositions", "insertDeleteInsertAtPostionDirection",
-            "insertDeleteInsertAtBeforeText", "insertDeleteInsertAtBeforeOccurrence",
-            "insertDeleteInsertAtAfterText", "insertDeleteInsertAtAfterOccurrence",
-            "insertDeleteNumberOfCharacters", "insertDeleteFromCharacterPosition",
-            "isInsertDeleteDeleteFromBackWard" },
-        { "replaceRemoveWith", "isReplaceRemoveAllOccurrence", "replaceRemoveStartOnOccurrence",
-            "replaceRemoveOccuranceCount", "replaceRemoveThis" },
-        { "generalFileNameCase", "generalExtensionCase", "generalChangeExtension", "generalSwapSeperator",
-            "generalSwapPosition", "generalRemoveAfterString", "generalRemoveAfterStringOccurrence",
-            "generalFilenameMask", "generalConvertWindowsCompatibleString" },
-    };
     const EnabledRow rows[] = {
         // The separator only has a place when the value stands beside the name.
         { Kind::Sequence, { u"sequenceNumeric"_s, u"sequenceIncrement"_s },
@@ -228,19 +177,14 @@ TEST_F(ActionTabTest, OnlyTheInputsOfTheChosenOptionsAreEnabled)
             click(name);
         for (const auto& [key, on] : row.switches)
             settings.setProperty(key, on);
-        for (const char* key : ruled[static_cast<int>(row.kind)]) {
-            EXPECT_EQ(field(key)->isEnabled(), row.enabled.contains(key))
+        for (const char* key : kInputs[static_cast<int>(row.kind)]) {
+            EXPECT_EQ(field(key)->isEnabled(), row.enabled.contains(key) || kAlwaysEnabled.contains(key))
                 << row.clicks.join(u' ').toStdString() << ": " << key;
         }
     }
-}
-
-// The word between a text and its occurrence follows its option too.
-TEST_F(ActionTabTest, TheWordBetweenATextAndItsOccurrenceFollowsItsOption)
-{
-    const std::pair<Kind, const char*> rows[]
-        = { { Kind::General, "generalOption8" }, { Kind::InsertDelete, "insertPlace4" } };
-    for (const auto& [kind, choice] : rows) {
+    // The word between a text and its occurrence follows its option too.
+    for (const auto& [kind, choice] :
+        { std::pair(Kind::General, "generalOption8"), std::pair(Kind::InsertDelete, "insertPlace4") }) {
         show(kind);
         click(QString::fromLatin1(choice));
         int enabledWords = 0;
@@ -250,149 +194,77 @@ TEST_F(ActionTabTest, TheWordBetweenATextAndItsOccurrenceFollowsItsOption)
     }
 }
 
-struct TypingRow {
+struct InputRow {
     Kind kind;
     QString choice;
     const char* key;
-    QString typed;
-    QString stored;
-};
-
-// Each field filters with its own kind: letters, a start that may be 0, steps and positions
-// that may not. The filter runs at every key, so a digit typed after letters goes at once.
-TEST_F(ActionTabTest, TypingSetsTheOptionsThroughTheFieldsFilters)
-{
-    const TypingRow rows[] = {
-        { Kind::Sequence, u"sequenceAlphabetic"_s, "alphaNumericAlphabeticStartWith", u"AB1c"_s, u"abc"_s },
-        { Kind::Sequence, u"sequenceAlphabetic"_s, "alphaNumericAlphabeticStartWith", u"123"_s, u"a"_s },
-        { Kind::Sequence, u"sequenceIncrement"_s, "alphaNumericIncrementBy", u" 0x"_s, u"1"_s },
-        { Kind::Sequence, u"sequenceNumeric"_s, "alphaNumericNumericStartWith", u"0"_s, u"0"_s },
-        { Kind::Sequence, {}, "alphaNumericPaddingMask", u"ID-00"_s, u"ID-00"_s },
-        // A slash is turned into a colon by the action, not by the field.
-        { Kind::InsertDelete, {}, "insertDeleteInsert", u"a/b"_s, u"a/b"_s },
-        { Kind::InsertDelete, u"insertPlace2"_s, "insertDeleteAtCharacterPositions", u"x0"_s, u"1"_s },
-        { Kind::InsertDelete, u"deleteMode"_s, "insertDeleteNumberOfCharacters", u"12"_s, u"12"_s },
-        { Kind::ReplaceRemove, {}, "replaceRemoveThis", u"-"_s, u"-"_s },
-        { Kind::ReplaceRemove, {}, "replaceRemoveStartFromCharacter", u"0"_s, u"1"_s },
-        { Kind::ReplaceRemove, {}, "replaceRemoveStartOnOccurrence", u"3"_s, u"3"_s },
-        { Kind::General, u"generalOption8"_s, "generalRemoveAfterString", u"a/b"_s, u"a/b"_s },
-        { Kind::General, u"generalOption8"_s, "generalRemoveAfterStringOccurrence", u"x2"_s, u"2"_s },
-    };
-    for (const TypingRow& row : rows) {
-        show(row.kind);
-        if (!row.choice.isEmpty())
-            click(row.choice);
-        typeInto(row.key, row.typed);
-        EXPECT_EQ(settings.property(row.key).toString(), row.stored)
-            << row.key << " " << row.typed.toStdString();
-    }
-}
-
-struct ChoosingRow {
-    Kind kind;
-    QString choice;
-    const char* key;
+    QString typed; // null: pick the item of that index, or tick when it is -1
     int index;
     QVariant stored;
 };
 
-TEST_F(ActionTabTest, ChoosingAnItemOrTickingSetsTheOption)
+// Each field filters with its own kind: letters, a start that may be 0, steps and positions
+// that may not. The filter runs at every key, so a digit typed after letters goes at once.
+// A chooser stores the value of its item, not the item's index.
+TEST_F(ActionTabTest, TypingChoosingAndTickingSetTheirOptions)
 {
-    const ChoosingRow rows[] = {
-        { Kind::InsertDelete, u"insertPlace2"_s, "insertDeleteInsertAtPostionDirection", 1, 1 },
-        { Kind::InsertDelete, u"deleteMode"_s, "isInsertDeleteDeleteFromBackWard", 1, true },
-        { Kind::InsertDelete, u"deleteMode"_s, "isInsertDeleteDeleteFromBackWard", 0, false },
-        { Kind::ReplaceRemove, {}, "replaceRemovePositionDirection", 1, 1 },
-        { Kind::General, u"generalOption0"_s, "generalFileNameCase", 1, 2 },
-        { Kind::General, u"generalOption0"_s, "generalFileNameCase", 2, 3 },
-        { Kind::ReplaceRemove, u"isReplaceRemoveCaseSensitive"_s, "isReplaceRemoveCaseSensitive", -1, true },
+    const InputRow rows[] = {
+        { Kind::Sequence, u"sequenceAlphabetic"_s, "alphaNumericAlphabeticStartWith", u"AB1c"_s, 0,
+            u"abc"_s },
+        { Kind::Sequence, u"sequenceIncrement"_s, "alphaNumericIncrementBy", u" 0x"_s, 0, u"1"_s },
+        { Kind::Sequence, u"sequenceNumeric"_s, "alphaNumericNumericStartWith", u"0"_s, 0, u"0"_s },
+        { Kind::Sequence, {}, "alphaNumericPaddingMask", u"ID-00"_s, 0, u"ID-00"_s },
+        // A slash is turned into a colon by the action, not by the field.
+        { Kind::InsertDelete, {}, "insertDeleteInsert", u"a/b"_s, 0, u"a/b"_s },
+        { Kind::InsertDelete, u"insertPlace2"_s, "insertDeleteAtCharacterPositions", u"x0"_s, 0, u"1"_s },
+        { Kind::ReplaceRemove, {}, "replaceRemoveStartFromCharacter", u"0"_s, 0, u"1"_s },
+        { Kind::General, u"generalOption8"_s, "generalRemoveAfterString", u"a/b"_s, 0, u"a/b"_s },
+        { Kind::General, u"generalOption8"_s, "generalRemoveAfterStringOccurrence", u"x2"_s, 0, u"2"_s },
+        { Kind::InsertDelete, u"insertPlace2"_s, "insertDeleteInsertAtPostionDirection", {}, 1, 1 },
+        { Kind::InsertDelete, u"deleteMode"_s, "isInsertDeleteDeleteFromBackWard", {}, 1, true },
+        { Kind::ReplaceRemove, {}, "replaceRemovePositionDirection", {}, 1, 1 },
+        { Kind::General, u"generalOption0"_s, "generalFileNameCase", {}, 2, 3 },
+        { Kind::ReplaceRemove, u"isReplaceRemoveCaseSensitive"_s, "isReplaceRemoveCaseSensitive", {}, -1,
+            true },
         { Kind::Sequence, u"isAlphaNumericResetSequenceOnEachFolder"_s,
-            "isAlphaNumericResetSequenceOnEachFolder", -1, true },
+            "isAlphaNumericResetSequenceOnEachFolder", {}, -1, true },
     };
-    for (const ChoosingRow& row : rows) {
+    for (const InputRow& row : rows) {
         show(row.kind);
         if (!row.choice.isEmpty())
             click(row.choice);
-        if (row.index >= 0)
+        if (!row.typed.isNull())
+            typeInto(field(row.key), row.typed);
+        else if (row.index >= 0)
             chooseItem(row.key, row.index);
-        EXPECT_EQ(settings.property(row.key), row.stored) << row.key << " " << row.index;
+        EXPECT_EQ(settings.property(row.key), row.stored) << row.key << " " << row.typed.toStdString();
     }
     EXPECT_EQ(settings.generalExtensionCase(), 1) << "the extension's chooser is another option";
 }
 
-struct RefreshRow {
-    Kind kind;
-    std::function<void(Settings&)> change;
-    QList<std::pair<const char*, QVariant>> shown;
-    QString checkedButton;
-};
-
 // Settings changed from elsewhere (a profile, a validation) show as they are stored.
 TEST_F(ActionTabTest, ChangesOfTheSettingsShowInTheInputs)
 {
-    const RefreshRow rows[] = {
-        { Kind::Sequence,
-            [](Settings& s) {
-                s.chooseNumericOrAlphabetic(1);
-                s.setAlphaNumericAlphabeticStartWith(u"xy"_s);
-                s.setAlphaNumericIncrementBy(u"0"_s);
-                s.setIsAlphaNumericSufix(true);
-            },
-            { { "alphaNumericAlphabeticStartWith", u"xy"_s }, { "alphaNumericIncrementBy", u"0"_s },
-                { "isAlphaNumericSufix", true } },
-            u"sequenceAlphabetic"_s },
-        // The action counts down when both directions are set, and the tab says so.
-        { Kind::Sequence,
-            [](Settings& s) {
-                s.chooseIncrementOrDecrement(1);
-                s.setIsAlphaNumericIncrement(true);
-            },
-            {}, u"sequenceDecrement"_s },
-        { Kind::InsertDelete,
-            [](Settings& s) {
-                s.chooseInsertPosition(2);
-                s.setInsertDeleteAtCharacterPositions(u"7"_s);
-                s.setInsertDeleteInsertAtPostionDirection(1);
-                s.setIsInsertDeleteDeleteFromBackWard(true);
-            },
-            { { "insertDeleteAtCharacterPositions", u"7"_s }, { "insertDeleteInsertAtPostionDirection", 1 },
-                { "isInsertDeleteDeleteFromBackWard", 1 } },
-            u"insertPlace2"_s },
-        { Kind::ReplaceRemove,
-            [](Settings& s) {
-                s.chooseReplaceRemoveMode(1);
-                s.setReplaceRemoveThis(u"draft "_s);
-                s.setIsReplaceRemoveCaseSensitive(true);
-                s.setReplaceRemoveOccuranceCount(u"0"_s);
-            },
-            { { "replaceRemoveThis", u"draft "_s }, { "isReplaceRemoveCaseSensitive", true },
-                { "replaceRemoveOccuranceCount", u"0"_s } },
-            u"removeMode"_s },
-        // A code the chooser does not offer must not pass for one it does.
-        { Kind::General,
-            [](Settings& s) {
-                s.chooseGeneralOption(10);
-                s.setGeneralFilenameMask(u"0000"_s);
-                s.setGeneralFileNameCase(0);
-            },
-            { { "generalFilenameMask", u"0000"_s }, { "generalFileNameCase", -1 } }, u"generalOption10"_s },
-    };
-    for (const RefreshRow& row : rows) {
-        show(row.kind);
-        row.change(settings);
-        for (const auto& [key, value] : row.shown)
-            EXPECT_EQ(shown(key), value) << key;
-        QAbstractButton* chosen = button(row.checkedButton);
-        ASSERT_NE(chosen->group(), nullptr);
-        for (QAbstractButton* radio : chosen->group()->buttons())
-            EXPECT_EQ(radio->isChecked(), radio == chosen) << radio->objectName().toStdString();
+    for (const Kind kind : { Kind::Sequence, Kind::InsertDelete, Kind::ReplaceRemove, Kind::General }) {
+        show(kind);
+        for (const char* key : kInputs[static_cast<int>(kind)]) {
+            QWidget* input = field(key);
+            if (auto* line = qobject_cast<QLineEdit*>(input)) {
+                settings.setProperty(key, u"07"_s);
+                EXPECT_EQ(line->text(), u"07"_s) << key << ": shown as the action will use it";
+            } else if (auto* box = qobject_cast<QCheckBox*>(input)) {
+                settings.setProperty(key, !box->isChecked());
+                EXPECT_EQ(box->isChecked(), settings.property(key).toBool()) << key;
+            } else {
+                auto* chooser = qobject_cast<QComboBox*>(input);
+                settings.setProperty(key, chooser->itemData(chooser->count() - 1));
+                EXPECT_EQ(chooser->currentIndex(), chooser->count() - 1) << key;
+            }
+        }
     }
-
-    // A profile with no mode set runs no action; no button claims otherwise.
-    show(Kind::ReplaceRemove);
-    settings.setIsReplaceRemoveReplace(false);
-    for (const char* mode : { "replaceMode", "removeMode", "removeCharactersMode" })
-        EXPECT_FALSE(button(QString::fromLatin1(mode))->isChecked()) << mode;
+    // A code the chooser does not offer must not pass for one it does.
+    settings.setGeneralFileNameCase(0);
+    EXPECT_EQ(qobject_cast<QComboBox*>(field("generalFileNameCase"))->currentIndex(), -1);
 }
 
 TEST_F(ActionTabTest, AFieldBeingTypedInKeepsItsCursor)
@@ -407,53 +279,16 @@ TEST_F(ActionTabTest, AFieldBeingTypedInKeepsItsCursor)
     EXPECT_EQ(extension->cursorPosition(), 2) << "the echo of the setting does not reset the field";
 }
 
-TEST_F(ActionTabTest, TheFindFieldSaysWhatItHolds)
-{
-    show(Kind::ReplaceRemove);
-    QWidget* find = field("replaceRemoveThis");
-    click(u"removeCharactersMode"_s);
-    EXPECT_EQ(find->toolTip(), localized("REPLACECHARACTERSTIP"));
-    const QString charactersName = find->accessibleName();
-    click(u"removeMode"_s);
-    EXPECT_EQ(find->toolTip(), localized("REPLACEFINDTIP"));
-    EXPECT_NE(find->accessibleName(), charactersName);
-}
-
 // Every input is found by its option for the focus after an alert, says what it is for, and
 // a screen reader names it after the words before it.
 TEST_F(ActionTabTest, EveryInputIsFoundByItsOptionAndExplained)
 {
-    const std::pair<Kind, QList<const char*>> inputs[] = {
-        { Kind::Sequence,
-            { "alphaNumericNumericStartWith", "alphaNumericAlphabeticStartWith", "alphaNumericIncrementBy",
-                "alphaNumericDecrementBy", "isAlphaNumericResetSequenceOnEachFolder", "isAlphaNumericPrefix",
-                "isAlphaNumericSufix", "isAlphaNumericSeperator", "alphaNumericSeperator",
-                "alphaNumericPaddingMask" } },
-        { Kind::InsertDelete,
-            { "insertDeleteInsert", "insertDeleteAtCharacterPositions",
-                "insertDeleteInsertAtPostionDirection", "insertDeleteInsertAtBeforeText",
-                "insertDeleteInsertAtBeforeOccurrence", "insertDeleteInsertAtAfterText",
-                "insertDeleteInsertAtAfterOccurrence", "insertDeleteNumberOfCharacters",
-                "insertDeleteFromCharacterPosition", "isInsertDeleteDeleteFromBackWard" } },
-        { Kind::ReplaceRemove,
-            { "replaceRemoveThis", "replaceRemoveWith", "isReplaceRemoveCaseSensitive",
-                "replaceRemoveStartFromCharacter", "replaceRemovePositionDirection",
-                "isReplaceRemoveAllOccurrence", "replaceRemoveStartOnOccurrence",
-                "replaceRemoveOccuranceCount" } },
-        { Kind::General,
-            { "generalFileNameCase", "generalExtensionCase", "generalChangeExtension", "generalSwapSeperator",
-                "generalSwapPosition", "generalRemoveAfterString", "generalRemoveAfterStringOccurrence",
-                "generalRemoveFromString", "generalRemoveFromStringOccurrence", "generalFilenameMask",
-                "generalConvertWindowsCompatibleString" } },
-    };
-    for (const auto& [kind, keys] : inputs) {
+    for (const Kind kind : { Kind::Sequence, Kind::InsertDelete, Kind::ReplaceRemove, Kind::General }) {
         show(kind);
-        for (const char* key : keys) {
-            QWidget* input = field(key);
-            EXPECT_FALSE(input->toolTip().isEmpty()) << key;
-            if (!qobject_cast<QCheckBox*>(input)) {
-                EXPECT_FALSE(input->accessibleName().isEmpty()) << key;
-            }
+        for (const char* key : kInputs[static_cast<int>(kind)]) {
+            EXPECT_FALSE(field(key)->toolTip().isEmpty()) << key;
+            EXPECT_TRUE(qobject_cast<QCheckBox*>(field(key)) || !field(key)->accessibleName().isEmpty())
+                << key;
         }
         for (QAbstractButton* radio : tab->findChildren<QAbstractButton*>())
             EXPECT_FALSE(radio->toolTip().isEmpty()) << radio->objectName().toStdString();
@@ -476,6 +311,16 @@ TEST_F(ActionTabTest, EveryInputIsFoundByItsOptionAndExplained)
     const QString textName = field("insertDeleteInsert")->accessibleName();
     EXPECT_TRUE(localized("INSERTTEXT").startsWith(textName) && !textName.endsWith(u':'))
         << "a label's colon is not read out";
+
+    // The find field says whether it holds a text or a set of characters.
+    show(Kind::ReplaceRemove);
+    QWidget* find = field("replaceRemoveThis");
+    click(u"removeCharactersMode"_s);
+    EXPECT_EQ(find->toolTip(), localized("REPLACECHARACTERSTIP"));
+    const QString charactersName = find->accessibleName();
+    click(u"removeMode"_s);
+    EXPECT_EQ(find->toolTip(), localized("REPLACEFINDTIP"));
+    EXPECT_NE(find->accessibleName(), charactersName);
 }
 
 // A page with one input, standing for the tabs that later work adds.
@@ -536,6 +381,100 @@ TEST_F(ActionTabsTest, TheTabOfTheLastSessionIsShownEvenWhenItsPageComesLater)
     addPages();
     EXPECT_EQ(tabWidget.currentActionTab(), replace);
     EXPECT_EQ(settings.selectedTab(), tabs::ReplaceRemove);
+}
+
+struct FilterRow {
+    TextFieldFormatter::Kind kind;
+    const char* typed;
+    const char* kept;
+};
+
+// Letters and safe characters are only trimmed at the ends; numbers keep their digits
+// wherever they stand.
+const FilterRow kFilters[] = {
+    { TextFieldFormatter::Kind::Letters, "AB1c", "ab1c" },
+    { TextFieldFormatter::Kind::Letters, "123", "a" },
+    { TextFieldFormatter::Kind::Letters, "", "a" },
+    { TextFieldFormatter::Kind::Letters, " -Xy. ", "xy" },
+    { TextFieldFormatter::Kind::Letters, "zz", "zz" },
+    { TextFieldFormatter::Kind::PositiveNumber, " 0x", "1" },
+    { TextFieldFormatter::Kind::PositiveNumber, "", "1" },
+    { TextFieldFormatter::Kind::PositiveNumber, "000", "1" },
+    { TextFieldFormatter::Kind::PositiveNumber, "x7y", "7" },
+    { TextFieldFormatter::Kind::PositiveNumber, "1 2", "12" },
+    { TextFieldFormatter::Kind::PositiveNumber, "-3", "3" },
+    { TextFieldFormatter::Kind::PositiveNumber, "007", "007" },
+    { TextFieldFormatter::Kind::Number, "", "0" },
+    { TextFieldFormatter::Kind::Number, "0", "0" },
+    { TextFieldFormatter::Kind::Number, " 12a", "12" },
+    { TextFieldFormatter::Kind::SafeCharacters, "/_X|", "_x" },
+    { TextFieldFormatter::Kind::SafeCharacters, "\\:*?\"<>|", "" },
+    { TextFieldFormatter::Kind::SafeCharacters, "a:b", "a:b" },
+    { TextFieldFormatter::Kind::SafeCharacters, " -", " -" },
+    { TextFieldFormatter::Kind::Text, " a/b ", " a/b " },
+    { TextFieldFormatter::Kind::Text, "", "" },
+};
+
+TEST(TextFieldFormatterTest, EachKindKeepsWhatItsOptionCanHold)
+{
+    for (const FilterRow& row : kFilters) {
+        EXPECT_EQ(
+            TextFieldFormatter::filtered(row.kind, QString::fromUtf8(row.typed)), QString::fromUtf8(row.kept))
+            << int(row.kind) << " \"" << row.typed << '"';
+    }
+}
+
+class FormattedFieldTest : public ::testing::Test {
+protected:
+    void attach(TextFieldFormatter::Kind kind, int maximumLength = 9)
+    {
+        formatter = new TextFieldFormatter(&field, kind, maximumLength);
+        edits = std::make_unique<QSignalSpy>(formatter, &TextFieldFormatter::edited);
+        field.show();
+        field.setFocus();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&field));
+    }
+
+    QString lastEdit() const { return edits->isEmpty() ? QString() : edits->last().first().toString(); }
+
+    QLineEdit field;
+    TextFieldFormatter* formatter = nullptr;
+    std::unique_ptr<QSignalSpy> edits;
+};
+
+// A stand-in value is selected, so the next key replaces it.
+TEST_F(FormattedFieldTest, TheEditSignalCarriesTheFilteredTextAndAStandInGoesAtTheNextKey)
+{
+    attach(TextFieldFormatter::Kind::PositiveNumber);
+    QTest::keyClicks(&field, u"5"_s);
+    QTest::keyClick(&field, Qt::Key_Backspace);
+    EXPECT_EQ(field.text(), u"1"_s);
+    EXPECT_EQ(field.selectedText(), u"1"_s);
+    EXPECT_EQ(lastEdit(), u"1"_s);
+    EXPECT_EQ(edits->size(), 2);
+    QTest::keyClicks(&field, u"3x"_s);
+    EXPECT_EQ(field.text(), u"3"_s) << "not 13";
+}
+
+TEST_F(FormattedFieldTest, ARefusedCharacterLeavesTheCursorWhereTheUserTyped)
+{
+    attach(TextFieldFormatter::Kind::PositiveNumber);
+    QTest::keyClicks(&field, u"1234"_s);
+    field.setCursorPosition(2);
+    QTest::keyClicks(&field, u"x9"_s);
+    EXPECT_EQ(field.text(), u"12934"_s);
+    EXPECT_EQ(field.cursorPosition(), 3);
+}
+
+TEST_F(FormattedFieldTest, OnlyTheUsersEditsAreFilteredAndTheLengthIsLimited)
+{
+    attach(TextFieldFormatter::Kind::PositiveNumber, 3);
+    field.setText(u"0"_s);
+    EXPECT_EQ(field.text(), u"0"_s) << "a stored value shows as the action will use it";
+    EXPECT_TRUE(edits->isEmpty());
+    field.selectAll();
+    QTest::keyClicks(&field, u"98765"_s);
+    EXPECT_EQ(field.text(), u"987"_s);
 }
 
 } // namespace

@@ -1,37 +1,17 @@
 #include "gui/engine/AudioTab.h"
 
 #include "GuiFixture.h"
-#include "core/engine/OptionValues.h"
-#include "core/engine/actions/audiotags.h"
 #include "core/metadata/AudioFiles.h"
-#include "core/profiles/Preferences.h"
-#include "core/profiles/Tabs.h"
-#include "core/text/LocalizedStrings.h"
-#include "gui/app/MainWindow.h"
 #include "gui/engine/ActionTabs.h"
 #include "gui/engine/RenamePanel.h"
-#include "gui/list/FileTableModel.h"
 #include "gui/ui/ExtensionsEditorSheet.h"
-#include "support/TempTree.h"
 
-#include <QCheckBox>
-#include <QDir>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTabBar>
-#include <gtest/gtest.h>
 
 using namespace tavrin;
-using test::AudioFormat;
+using namespace tavrin::test;
 
 namespace {
-
-QString q(const char* utf8)
-{
-    return QString::fromUtf8(utf8);
-}
 
 // The tab shown on its own over settings at their start values.
 class AudioTabTest : public ::testing::Test {
@@ -43,222 +23,117 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&tab));
     }
 
-    // A wide button only answers a mouse click on its indicator and text; the space bar
-    // presses it wherever it is.
-    void click(const char* objectName) const
+    void click(const char* name) const { press(part<QAbstractButton>(&tab, name)); }
+    QWidget* field(const char* optionKey) const { return tab.fieldForOption(QString::fromLatin1(optionKey)); }
+    QString maskShown() const
     {
-        auto* pressed = tab.findChild<QAbstractButton*>(QString::fromLatin1(objectName));
-        ASSERT_NE(pressed, nullptr) << objectName;
-        pressed->setFocus();
-        QTest::keyClick(pressed, Qt::Key_Space);
-    }
-
-    QWidget* field(const char* optionKey) const
-    {
-        QWidget* found = tab.fieldForOption(QString::fromLatin1(optionKey));
-        EXPECT_NE(found, nullptr) << optionKey;
-        return found;
-    }
-
-    bool isEnabled(const char* optionKey) const { return field(optionKey)->isEnabled(); }
-
-    // Replaces the field's text by typing, as a user who selected it all would.
-    void typeInto(const char* optionKey, const QString& text) const
-    {
-        auto* line = qobject_cast<QLineEdit*>(field(optionKey));
-        ASSERT_NE(line, nullptr) << optionKey;
-        line->setFocus();
-        line->selectAll();
-        QTest::keyClicks(line, text);
+        return qobject_cast<QLineEdit*>(field(Settings::id3RenamingMaskKey))->text();
     }
 
     Settings settings;
     AudioTab tab { settings };
 };
 
-QString maskShown(const AudioTab& tab)
+// Each button adds its own tag; the settings build the mask from the tags.
+TEST_F(AudioTabTest, TokenButtonsAppendTheirTokensAndClearStartsOver)
 {
-    return qobject_cast<QLineEdit*>(tab.fieldForOption(QString::fromLatin1(Settings::id3RenamingMaskKey)))
-        ->text();
+    for (const char* button : { "id3Token1", "id3Token2", "id3Token3", "id3Token4", "id3Token5", "id3Token6",
+             "id3Token7", "id3Token8" })
+        click(button);
+    EXPECT_EQ(maskShown(), u"<Artist><Year><Genre><Title><Album><Comments><TrackNumber><Composer>"_s);
+    click("id3RenamingMaskClear");
+    click("id3Token5");
+    EXPECT_EQ(settings.id3RenamingMask(), u"<Album>"_s);
+    EXPECT_EQ(maskShown(), u"<Album>"_s);
 }
 
-TEST_F(AudioTabTest, TokenButtonsAppendTheirTokensAndTheMaskFollows)
-{
-    const struct {
-        const char* name;
-        std::vector<const char*> buttons;
-        bool separate;
-        const char* mask;
-    } rows[] = {
-        { "artist then title", { "id3Token1", "id3Token4" }, false, "<Artist><Title>" },
-        { "with the separator", { "id3Token1", "id3Token4" }, true, "<Artist> - <Title>" },
-        { "every button in turn",
-            { "id3Token1", "id3Token2", "id3Token3", "id3Token4", "id3Token5", "id3Token6", "id3Token7",
-                "id3Token8" },
-            false, "<Artist><Year><Genre><Title><Album><Comments><TrackNumber><Composer>" },
-        { "a token twice", { "id3Token7", "id3Token7" }, true, "<TrackNumber> - <TrackNumber>" },
-        { "clear starts over", { "id3Token1", "id3RenamingMaskClear", "id3Token5" }, true, "<Album>" },
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        settings.resetToStartValues();
-        if (row.separate) {
-            click(Settings::isID3RenamingSeperatorKey);
-            typeInto(Settings::id3RenamingSeperatorKey, QStringLiteral(" - "));
-        }
-        for (const char* button : row.buttons)
-            click(button);
-        EXPECT_EQ(settings.id3RenamingMask(), q(row.mask));
-        EXPECT_EQ(maskShown(tab), q(row.mask));
-    }
-}
-
-TEST_F(AudioTabTest, TheSeparatorSettersRebuildTheMask)
+TEST_F(AudioTabTest, TheSeparatorRebuildsTheMaskAndTheColonOptionLeavesItAlone)
 {
     click("id3Token1");
     click("id3Token4");
-    EXPECT_FALSE(isEnabled(Settings::id3RenamingSeperatorKey));
+    EXPECT_FALSE(field(Settings::id3RenamingSeperatorKey)->isEnabled());
     click(Settings::isID3RenamingSeperatorKey);
-    EXPECT_TRUE(isEnabled(Settings::id3RenamingSeperatorKey));
-    typeInto(Settings::id3RenamingSeperatorKey, QStringLiteral("_"));
-    EXPECT_EQ(maskShown(tab), q("<Artist>_<Title>"));
+    typeInto(field(Settings::id3RenamingSeperatorKey), u"_"_s);
+    EXPECT_EQ(maskShown(), u"<Artist>_<Title>"_s);
     click(Settings::isID3RenamingSeperatorKey);
-    EXPECT_EQ(maskShown(tab), q("<Artist><Title>"));
+    EXPECT_EQ(maskShown(), u"<Artist><Title>"_s);
 
-    EXPECT_FALSE(isEnabled(Settings::id3RenamingColonReplaceKey));
+    EXPECT_FALSE(field(Settings::id3RenamingColonReplaceKey)->isEnabled());
     click(Settings::isID3RenamingColonReplaceKey);
-    typeInto(Settings::id3RenamingColonReplaceKey, QStringLiteral("-"));
+    typeInto(field(Settings::id3RenamingColonReplaceKey), u"-"_s);
     EXPECT_TRUE(settings.isID3RenamingColonReplace());
-    EXPECT_EQ(settings.id3RenamingColonReplace(), q("-"));
-    EXPECT_EQ(maskShown(tab), q("<Artist><Title>")) << "the colon option leaves the mask alone";
-}
-
-TEST_F(AudioTabTest, AnExtensionAddedInTheEditorRenamesItsFiles)
-{
-    auto* view = tab.findChild<QLineEdit*>(QStringLiteral("id3ExtensionsView"));
-    ASSERT_NE(view, nullptr);
-    EXPECT_EQ(view->text(), q(".MP3; .M4A; .AAC; .M4B"));
-
-    click("id3ExtensionEditor");
-    auto* sheet = tab.findChild<ExtensionsEditorSheet*>();
-    ASSERT_NE(sheet, nullptr);
-    EXPECT_EQ(sheet->windowModality(), Qt::WindowModal);
-    auto* field = sheet->findChild<QLineEdit*>(QStringLiteral("newExtensionField"));
-    QTest::keyClicks(field, QStringLiteral("flac"));
-    QTest::keyClick(field, Qt::Key_Return);
-    sheet->accept();
-    EXPECT_EQ(view->text(), q(".MP3; .M4A; .AAC; .M4B; .FLAC"));
-
-    test::TempTree tree;
-    const QString path
-        = test::writeTaggedAudio(tree, q("song.flac"), AudioFormat::Flac, { { q("Ana") }, q("Sol") });
-    click("id3Token1");
-    click("id3Token4");
-    click(Settings::isID3RenamingSeperatorKey);
-    typeInto(Settings::id3RenamingSeperatorKey, QStringLiteral(" - "));
-    FileSystemItem item = *FileSystemItem::initWithPath(path);
-    QString error;
-    ASSERT_TRUE(renameByID3Tags(item, ID3Options::from(PropertyOptionValues(settings)), error));
-    EXPECT_EQ(item.newFilename(), q("Ana - Sol.flac"));
+    EXPECT_EQ(settings.id3RenamingColonReplace(), u"-"_s);
+    EXPECT_EQ(maskShown(), u"<Artist><Title>"_s);
 }
 
 TEST(ExtensionsEditorSheet, TypedExtensionsTakeTheFormOfTheList)
 {
-    const struct {
-        const char* typed;
-        const char* added;
-    } rows[] = {
-        { "flac", ".FLAC" },
-        { ".Flac", ".FLAC" },
-        { "*.ogg", ".OGG" },
-        { "  m4b ", ".M4B" },
-        { "..wav", ".WAV" },
-        { "", "" },
-        { ".", "" },
-        { "*", "" },
-        { "tar.gz", "" },
-        { "a b", "" },
-        { "a/b", "" },
-        { "a:b", "" },
-        { "ü", ".Ü" },
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(ExtensionsEditorSheet::normalisedExtension(q(row.typed)), q(row.added)) << row.typed;
+    const std::pair<QString, QString> rows[] = { { u"flac"_s, u".FLAC"_s }, { u".Flac"_s, u".FLAC"_s },
+        { u"*.ogg"_s, u".OGG"_s }, { u"  m4b "_s, u".M4B"_s }, { u"..wav"_s, u".WAV"_s }, { u""_s, u""_s },
+        { u"."_s, u""_s }, { u"*"_s, u""_s }, { u"tar.gz"_s, u""_s }, { u"a b"_s, u""_s },
+        { u"a/b"_s, u""_s }, { u"a:b"_s, u""_s }, { u"ü"_s, u".Ü"_s } };
+    for (const auto& [typed, added] : rows)
+        EXPECT_EQ(ExtensionsEditorSheet::normalisedExtension(typed), added) << typed.toStdString();
 }
 
 TEST(ExtensionsEditorSheet, AddsEachExtensionOnceAndRemovesTheSelectedOnes)
 {
     for (const auto type : { ExtensionsEditorSheet::Photo, ExtensionsEditorSheet::Audio }) {
-        ExtensionsEditorSheet sheet({ q(".MP3"), q(".M4A"), q(".AAC") }, type);
+        ExtensionsEditorSheet sheet({ u".MP3"_s, u".M4A"_s, u".AAC"_s }, type);
         EXPECT_EQ(sheet.windowTitle(),
             localized(type == ExtensionsEditorSheet::Photo ? "EXTENSIONSEDITORPHOTOTITLE"
                                                            : "EXTENSIONSEDITORAUDIOTITLE"));
-        auto* field = sheet.findChild<QLineEdit*>(QStringLiteral("newExtensionField"));
-        auto* add = sheet.findChild<QPushButton*>(QStringLiteral("addExtensionButton"));
-        auto* remove = sheet.findChild<QPushButton*>(QStringLiteral("removeExtensionButton"));
-        EXPECT_FALSE(add->isEnabled());
-        EXPECT_FALSE(remove->isEnabled());
-        for (const char* typed : { "mp3", "ogg", "OGG", "tar.gz" }) {
-            field->setText(q(typed));
+        auto* field = part<QLineEdit>(&sheet, "newExtensionField");
+        auto* add = part<QPushButton>(&sheet, "addExtensionButton");
+        auto* remove = part<QPushButton>(&sheet, "removeExtensionButton");
+        EXPECT_FALSE(add->isEnabled() || remove->isEnabled());
+        for (const QString& typed : { u"mp3"_s, u"ogg"_s, u"OGG"_s, u"tar.gz"_s }) {
+            field->setText(typed);
             add->click();
         }
-        EXPECT_EQ(sheet.extensions(), QStringList({ q(".MP3"), q(".M4A"), q(".AAC"), q(".OGG") }));
-        EXPECT_EQ(field->text(), q("tar.gz")) << "a refused extension stays to be corrected";
+        EXPECT_EQ(sheet.extensions(), QStringList({ u".MP3"_s, u".M4A"_s, u".AAC"_s, u".OGG"_s }));
+        EXPECT_EQ(field->text(), u"tar.gz"_s) << "a refused extension stays to be corrected";
 
-        auto* list = sheet.findChild<QListWidget*>(QStringLiteral("extensionsList"));
+        auto* list = part<QListWidget>(&sheet, "extensionsList");
         list->item(0)->setSelected(true);
         list->item(2)->setSelected(true);
-        EXPECT_TRUE(remove->isEnabled());
         remove->click();
-        EXPECT_EQ(sheet.extensions(), QStringList({ q(".M4A"), q(".OGG") }));
+        EXPECT_EQ(sheet.extensions(), QStringList({ u".M4A"_s, u".OGG"_s }));
     }
 }
 
-// The whole road in the window: a folder of tagged MP3 files named "Artist - Title".
-class AudioWindowTest : public test::WindowFixture {
-protected:
-    bool clickAndWait(const QString& button, void (RenameController::*finished)())
-    {
-        return test::runAndWait(&rename(), finished, [&] {
-            QTest::mouseClick(child<QPushButton>(button), Qt::LeftButton);
-            return true;
-        });
-    }
+using AudioWindowTest = WindowFixture;
 
-    QStringList shownNewNames() const
-    {
-        QStringList names;
-        for (int row = 0; row < window.tableModel()->rowCount(); ++row)
-            names.append(newName(row));
-        return names;
-    }
-};
-
-TEST_F(AudioWindowTest, TaggedFilesPreviewAndRenameAsArtistDashTitle)
+// The whole road in the window: an extension added in the editor, and tagged files
+// previewed as "Artist - Title".
+TEST_F(AudioWindowTest, TheAudioTabPreviewsTaggedFilesOfTheExtensionsItAllows)
 {
     const QStringList paths {
-        test::writeTaggedAudio(tree, q("music/01.mp3"), AudioFormat::Mp3, { { q("Abba") }, q("Waterloo") }),
-        test::writeTaggedAudio(tree, q("music/02.mp3"), AudioFormat::Mp3, { { q("Björk") }, q("東京") }),
+        writeTaggedAudio(tree, u"music/01.mp3"_s, AudioFormat::Mp3, { { u"Björk"_s }, u"東京"_s }),
+        writeTaggedAudio(tree, u"music/02.flac"_s, AudioFormat::Flac, { { u"Ana"_s }, u"Sol"_s }),
     };
     ASSERT_TRUE(addAndWait(paths));
-
     ActionTabs* tabs = window.renamePanel()->tabs();
     auto* page = static_cast<AudioTab*>(tabs->pageForTab(tabs::Audio));
     ASSERT_NE(page, nullptr);
     settings().setSelectedTab(tabs::Audio);
-    page->id3RenamingMaskActions(1);
-    page->id3RenamingMaskActions(4);
-    page->findChild<QCheckBox*>(QString::fromLatin1(Settings::isID3RenamingSeperatorKey))->click();
-    auto* separator = qobject_cast<QLineEdit*>(
-        page->fieldForOption(QString::fromLatin1(Settings::id3RenamingSeperatorKey)));
-    separator->setFocus();
-    QTest::keyClicks(separator, QStringLiteral(" - "));
+    auto* view = part<QLineEdit>(page, "id3ExtensionsView");
+    EXPECT_EQ(view->text(), u".MP3; .M4A; .AAC; .M4B"_s);
+    press(part<QAbstractButton>(page, "id3ExtensionEditor"));
+    auto* sheet = page->findChild<ExtensionsEditorSheet*>();
+    ASSERT_NE(sheet, nullptr);
+    EXPECT_EQ(sheet->windowModality(), Qt::WindowModal);
+    typeInto(part<QLineEdit>(sheet, "newExtensionField"), u"flac"_s);
+    QTest::keyClick(part<QLineEdit>(sheet, "newExtensionField"), Qt::Key_Return);
+    sheet->accept();
+    EXPECT_EQ(view->text(), u".MP3; .M4A; .AAC; .M4B; .FLAC"_s);
 
-    ASSERT_TRUE(clickAndWait(QStringLiteral("previewActionButton"), &RenameController::previewFinished));
-    EXPECT_EQ(shownNewNames(), QStringList({ q("Abba - Waterloo.mp3"), q("Björk - 東京.mp3") }));
-    ASSERT_TRUE(clickAndWait(QStringLiteral("applyActionButton"), &RenameController::applyFinished));
-    EXPECT_EQ(QDir(tree.path(q("music"))).entryList(QDir::Files, QDir::Name),
-        QStringList({ q("Abba - Waterloo.mp3"), q("Björk - 東京.mp3") }));
+    press(part<QAbstractButton>(page, "id3Token1"));
+    press(part<QAbstractButton>(page, "id3Token4"));
+    press(part<QAbstractButton>(page, Settings::isID3RenamingSeperatorKey));
+    typeInto(page->fieldForOption(QString::fromLatin1(Settings::id3RenamingSeperatorKey)), u" - "_s);
+    ASSERT_TRUE(clickPreviewAndWait());
+    EXPECT_EQ(shownNewNames(), QStringList({ u"Björk - 東京.mp3"_s, u"Ana - Sol.flac"_s }));
 }
 
 } // namespace

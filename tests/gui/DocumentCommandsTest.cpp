@@ -1,7 +1,6 @@
 #include "gui/app/DocumentCommands.h"
 
 #include "GuiFixture.h"
-#include "core/text/LocalizedStrings.h"
 
 using namespace tavrin;
 using namespace tavrin::test;
@@ -23,12 +22,10 @@ protected:
     DocumentCommandsTest()
     {
         Preferences preferences = controller.session().preferences();
-        preferences.defaultRulesFolderPath = tree.folder(QStringLiteral("library"));
+        preferences.defaultRulesFolderPath = tree.folder(u"library"_s);
         controller.session().setPreferences(preferences);
         commands.setPrompter(&prompter);
     }
-
-    QByteArray libraryRule(const QString& name) const { return tree.read(QStringLiteral("library/") + name); }
 
     TempTree tree;
     TavrinAppController controller;
@@ -37,62 +34,50 @@ protected:
     ScriptedPrompter prompter;
 };
 
+// The library's rule of that name stays unless the user says Yes.
 TEST_F(DocumentCommandsTest, ARuleFileJoinsTheLibraryOnlyWhenItFitsAndTheUserAgrees)
 {
-    const QString incoming = tree.file(QStringLiteral("in/Clean.tnrule"), ruleFile("3.2", "General"));
-    commands.openRuleDocument(tree.file(QStringLiteral("in/Old.tnrule"), ruleFile("2.9", "General")));
-    commands.openRuleDocument(tree.file(QStringLiteral("in/Junk.tnrule"), "not a property list"));
+    const QString incoming = tree.file(u"in/Clean.tnrule"_s, ruleFile("3.2", "General"));
+    commands.openRuleDocument(tree.file(u"in/Old.tnrule"_s, ruleFile("2.9", "General")));
+    commands.openRuleDocument(tree.file(u"in/Junk.tnrule"_s, "not a property list"));
     EXPECT_EQ(prompter.alerts.size(), 2);
-    EXPECT_FALSE(tree.exists(QStringLiteral("library/Old.tnrule")));
-    EXPECT_FALSE(tree.exists(QStringLiteral("library/Junk.tnrule")));
-
+    EXPECT_FALSE(tree.exists(u"library/Old.tnrule"_s) || tree.exists(u"library/Junk.tnrule"_s));
     commands.openRuleDocument(incoming);
-    EXPECT_EQ(libraryRule(QStringLiteral("Clean.tnrule")), ruleFile("3.2", "General"));
     EXPECT_TRUE(prompter.questions.isEmpty()) << "nothing to replace yet";
 
-    // The library's rule of that name stays unless the user says YES.
-    tree.file(QStringLiteral("in/Clean.tnrule"), ruleFile("3.2", "ReplaceRemove"));
-    prompter.yesNoAnswer = false;
-    commands.openRuleDocument(incoming);
-    EXPECT_EQ(prompter.questions.size(), 1);
-    EXPECT_EQ(libraryRule(QStringLiteral("Clean.tnrule")), ruleFile("3.2", "General"));
-    prompter.yesNoAnswer = true;
-    commands.openRuleDocument(incoming);
-    EXPECT_EQ(libraryRule(QStringLiteral("Clean.tnrule")), ruleFile("3.2", "ReplaceRemove"));
+    tree.file(u"in/Clean.tnrule"_s, ruleFile("3.2", "ReplaceRemove"));
+    for (const bool yes : { false, true }) {
+        prompter.yesNoAnswer = yes;
+        commands.openRuleDocument(incoming);
+        EXPECT_EQ(tree.read(u"library/Clean.tnrule"_s), ruleFile("3.2", yes ? "ReplaceRemove" : "General"));
+    }
+    EXPECT_EQ(prompter.questions.size(), 2);
 }
 
 TEST_F(DocumentCommandsTest, AProfileDocumentReplacesTheOptionsOnlyAfterYes)
 {
-    const QString profile = tree.path(QStringLiteral("Holiday.tnprofile"));
-    controller.settings().setReplaceRemoveThis(QStringLiteral("IMG_"));
+    const QString profile = tree.path(u"Holiday.tnprofile"_s);
+    controller.settings().setReplaceRemoveThis(u"IMG_"_s);
     ASSERT_TRUE(controller.session().saveProfile(profile));
     controller.session().loadDefaultProfile();
-    ASSERT_TRUE(controller.session().currProfileFile().isEmpty());
+    for (const bool yes : { false, true }) {
+        prompter.yesNoAnswer = yes;
+        commands.openProfileDocument(profile);
+        EXPECT_EQ(controller.settings().replaceRemoveThis(), yes ? u"IMG_"_s : QString());
+        EXPECT_EQ(controller.session().currProfileFile(), yes ? profile : QString());
+    }
+    ASSERT_EQ(prompter.questions.size(), 2);
+    EXPECT_TRUE(prompter.questions.first().contains(u"Holiday.tnprofile"_s));
 
-    prompter.yesNoAnswer = false;
-    commands.openProfileDocument(profile);
-    EXPECT_TRUE(controller.settings().replaceRemoveThis().isEmpty());
-    ASSERT_EQ(prompter.questions.size(), 1);
-    EXPECT_TRUE(prompter.questions.first().contains(QStringLiteral("Holiday.tnprofile")));
-
-    prompter.yesNoAnswer = true;
-    commands.openProfileDocument(profile);
-    EXPECT_EQ(controller.settings().replaceRemoveThis(), QStringLiteral("IMG_"));
-    EXPECT_EQ(controller.session().currProfileFile(), profile);
-}
-
-TEST_F(DocumentCommandsTest, AProfileOfAnotherMajorVersionIsRefusedWithItsName)
-{
-    const QString path = tree.file(QStringLiteral("Old.tnprofile"),
+    // A profile of another major version is refused with its name.
+    const QString old = tree.file(u"Old.tnprofile"_s,
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict><key>appVersion</key>"
         "<string>2.3</string><key>replaceRemoveThis</key><string>x</string></dict></plist>\n");
-    commands.openProfileDocument(path);
-    ASSERT_EQ(prompter.alerts.size(), 1);
-    EXPECT_EQ(prompter.alerts.first().text(),
-        localized("LOADPROFILETITLE") + QLatin1Char('|')
-            + localized("PROFILEINCOMPATIBLE").arg(QStringLiteral("Old.tnprofile")));
-    EXPECT_TRUE(controller.settings().replaceRemoveThis().isEmpty());
-    EXPECT_TRUE(controller.session().currProfileFile().isEmpty());
+    commands.openProfileDocument(old);
+    EXPECT_EQ(prompter.alertTexts(),
+        QStringList(
+            localized("LOADPROFILETITLE") + u'|' + localized("PROFILEINCOMPATIBLE").arg(u"Old.tnprofile"_s)));
+    EXPECT_EQ(controller.settings().replaceRemoveThis(), u"IMG_"_s);
 }
 
 } // namespace

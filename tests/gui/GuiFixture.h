@@ -1,23 +1,33 @@
 #pragma once
 
-// The shared fixtures of the GUI tests: a prompter the test answers, the controllers over a
-// temporary folder, and the whole window.
+// The shared fixtures of the GUI tests: a prompter the test answers, the ways a user reaches
+// a widget, the controllers over a temporary folder, and the whole window.
 
 #include "core/log/RenameLogEntry.h"
 #include "core/log/RenameLogFormat.h"
 #include "core/profiles/Tabs.h"
+#include "core/text/LocalizedStrings.h"
 #include "gui/app/MainWindow.h"
 #include "gui/app/TavrinAppController.h"
 #include "gui/list/FileTableModel.h"
 #include "gui/ui/Prompter.h"
 #include "support/TempTree.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QSaveFile>
 #include <QSignalSpy>
+#include <QTableView>
 #include <QTest>
 #include <QThread>
+#include <QTimer>
 #include <functional>
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -104,6 +114,32 @@ public:
         return texts;
     }
 };
+
+// The descendant of `parent` of that object name; the test fails when there is none.
+template <typename T> T* part(const QObject* parent, QAnyStringView name)
+{
+    T* found = parent->findChild<T*>(name.toString());
+    EXPECT_NE(found, nullptr) << name.toString().toStdString();
+    return found;
+}
+
+// A wide button only answers a mouse click on its indicator and text; the space bar presses
+// it wherever it is.
+inline void press(QAbstractButton* button)
+{
+    button->setFocus();
+    QTest::keyClick(button, Qt::Key_Space);
+}
+
+// Replaces a field's text by typing, as a user who selected it all would.
+inline void typeInto(QWidget* field, const QString& text)
+{
+    auto* line = qobject_cast<QLineEdit*>(field);
+    ASSERT_NE(line, nullptr);
+    line->setFocus();
+    line->selectAll();
+    QTest::keyClicks(line, text);
+}
 
 // Removes a file made with TempTree::rawFile: QTemporaryDir cannot remove a name that is
 // not valid UTF-8 and would leave its folder behind.
@@ -214,16 +250,36 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
-    template <typename T> T* child(const QString& name) const
-    {
-        T* found = window.findChild<T*>(name);
-        EXPECT_NE(found, nullptr) << name.toStdString();
-        return found;
-    }
+    template <typename T> T* child(const QString& name) const { return part<T>(&window, name); }
 
     QString newName(int row) const
     {
         return window.tableModel()->index(row, FileTableModel::NewNameColumn).data().toString();
+    }
+
+    QStringList shownNewNames() const
+    {
+        QStringList names;
+        for (int row = 0; row < window.tableModel()->rowCount(); ++row)
+            names.append(newName(row));
+        return names;
+    }
+
+    // Preview and Rename as a user clicks them; waits for the end of the run they start.
+    bool clickAndWait(const QString& button, void (RenameController::*finished)())
+    {
+        return runAndWait(&rename(), finished, [&] {
+            QTest::mouseClick(child<QPushButton>(button), Qt::LeftButton);
+            return true;
+        });
+    }
+    bool clickPreviewAndWait()
+    {
+        return clickAndWait(u"previewActionButton"_s, &RenameController::previewFinished);
+    }
+    bool clickRenameAndWait()
+    {
+        return clickAndWait(u"applyActionButton"_s, &RenameController::applyFinished);
     }
 
     MainWindow window { &controller };

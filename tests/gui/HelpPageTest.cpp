@@ -1,15 +1,13 @@
 #include "gui/log/HelpPage.h"
 
-#include "core/text/LocalizedStrings.h"
+#include "GuiFixture.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSet>
-#include <gtest/gtest.h>
 
 using namespace tavrin;
+using namespace tavrin::test;
 
 namespace {
 
@@ -32,56 +30,49 @@ QSet<QString> captures(const QString& text, const QRegularExpression& pattern)
 
 class HelpPageTest : public ::testing::Test {
 protected:
-    void TearDown() override { LocalizedStrings::setLanguage(QStringLiteral("en")); }
+    void TearDown() override { LocalizedStrings::setLanguage(u"en"_s); }
 };
-
-} // namespace
 
 // A page missing from one language would silently show the English one: every language
 // must hold the same pages, each declaring its language, with every link landing on a page
 // and an id of the same language.
 TEST_F(HelpPageTest, EveryLanguageHasEveryPageWithWorkingLinks)
 {
-    const QRegularExpression href(QStringLiteral("href=\"([^\"]*)\""));
-    const QRegularExpression id(QStringLiteral("id=\"([^\"]+)\""));
+    const QRegularExpression href(u"href=\"([^\"]*)\""_s);
+    const QRegularExpression id(u"id=\"([^\"]+)\""_s);
     for (const QString& language : LocalizedStrings::languages()) {
-        SCOPED_TRACE(language.toStdString());
-        const QString folder = QStringLiteral(":/help/") + language + QLatin1Char('/');
-        EXPECT_EQ(
-            QDir(folder).entryList(QDir::Files).join(u' ').toStdString(), kPages.join(u' ').toStdString());
+        const QString folder = u":/help/"_s + language + u'/';
+        EXPECT_EQ(QDir(folder).entryList(QDir::Files), kPages) << language.toStdString();
         for (const QString& page : kPages) {
-            SCOPED_TRACE(page.toStdString());
+            SCOPED_TRACE((folder + page).toStdString());
             const QString html = readAll(folder + page);
-            EXPECT_TRUE(html.contains(QStringLiteral("<html lang=\"%1\">").arg(language)));
+            EXPECT_TRUE(html.contains(u"<html lang=\"%1\">"_s.arg(language)));
             for (const QString& link : captures(html, href)) {
-                const QString target = link.section(QLatin1Char('#'), 0, 0);
-                const QString anchor = link.section(QLatin1Char('#'), 1);
+                const QString target = link.section(u'#', 0, 0);
+                const QString anchor = link.section(u'#', 1);
                 const QString targetHtml = target.isEmpty() ? html : readAll(folder + target);
                 EXPECT_FALSE(targetHtml.isEmpty()) << "broken link " << link.toStdString();
-                if (!anchor.isEmpty()) {
-                    EXPECT_TRUE(captures(targetHtml, id).contains(anchor))
-                        << "no anchor " << link.toStdString();
-                }
+                EXPECT_TRUE(anchor.isEmpty() || captures(targetHtml, id).contains(anchor))
+                    << "no anchor " << link.toStdString();
             }
         }
     }
 }
 
+// The browser follows the page's links to files next to the copy.
 TEST_F(HelpPageTest, CopiesThePagesOfTheCurrentLanguageSideBySide)
 {
-    LocalizedStrings::setLanguage(QStringLiteral("de"));
-    const QString copy = helpPageFile(QStringLiteral("main.html"));
+    LocalizedStrings::setLanguage(u"de"_s);
+    const QString copy = helpPageFile(u"main.html"_s);
     ASSERT_FALSE(copy.isEmpty());
-    EXPECT_EQ(QFileInfo(copy).dir().dirName(), QStringLiteral("de"));
-    EXPECT_EQ(readAll(copy), readAll(QStringLiteral(":/help/de/main.html")));
-    // The browser follows the page's links to files next to the copy.
+    EXPECT_EQ(QFileInfo(copy).dir().dirName(), u"de"_s);
     for (const QString& page : kPages)
         EXPECT_EQ(readAll(QFileInfo(copy).dir().filePath(page)), readAll(":/help/de/" + page));
 
-    LocalizedStrings::setLanguage(QStringLiteral("en"));
-    EXPECT_EQ(
-        readAll(helpPageFile(QStringLiteral("main.html"))), readAll(QStringLiteral(":/help/en/main.html")));
-    EXPECT_EQ(readAll(copy), readAll(QStringLiteral(":/help/de/main.html")));
-
-    EXPECT_EQ(helpPageFile(QStringLiteral("nosuchpage.html")), QString());
+    LocalizedStrings::setLanguage(u"en"_s);
+    EXPECT_EQ(readAll(helpPageFile(u"main.html"_s)), readAll(u":/help/en/main.html"_s));
+    EXPECT_EQ(readAll(copy), readAll(u":/help/de/main.html"_s));
+    EXPECT_EQ(helpPageFile(u"nosuchpage.html"_s), QString());
 }
+
+} // namespace

@@ -1,62 +1,39 @@
 #include "gui/engine/LivePreviewSheet.h"
 
-#include <QLineEdit>
-#include <QRadioButton>
-#include <QSignalSpy>
-#include <QTest>
-#include <gtest/gtest.h>
+#include "GuiFixture.h"
 
 using namespace tavrin;
+using namespace tavrin::test;
 
 namespace {
 
-template <typename T> T* child(const QWidget& sheet, const char* name)
+TEST(LivePreviewSheetTest, TheLimitIsOpenOnlyForTheFirstItemsAndHoldsOneToSixDigits)
 {
-    T* found = sheet.findChild<T*>(QString::fromLatin1(name));
-    EXPECT_NE(found, nullptr) << name;
-    return found;
-}
-
-TEST(LivePreviewSheetTest, LimitFieldIsOpenOnlyWhileTheFirstItemsArePreviewed)
-{
-    LivePreviewSheet limited(false, QStringLiteral("200"));
-    auto* field = child<QLineEdit>(limited, "filesLimitField");
-    EXPECT_TRUE(field->isEnabled());
-    child<QRadioButton>(limited, "allItemsButton")->click();
+    LivePreviewSheet sheet(true, u"50"_s);
+    auto* field = part<QLineEdit>(&sheet, "filesLimitField");
     EXPECT_FALSE(field->isEnabled());
-    EXPECT_TRUE(limited.isAllFiles());
-
-    LivePreviewSheet all(true, QStringLiteral("50"));
-    EXPECT_FALSE(child<QLineEdit>(all, "filesLimitField")->isEnabled());
-    child<QRadioButton>(all, "firstItemsButton")->click();
-    EXPECT_TRUE(child<QLineEdit>(all, "filesLimitField")->isEnabled());
-    EXPECT_FALSE(all.isAllFiles());
-    EXPECT_EQ(all.filesLimit(), QStringLiteral("50"));
-}
-
-TEST(LivePreviewSheetTest, LimitTakesAtMostSixDigitsAndNeverZero)
-{
+    part<QRadioButton>(&sheet, "firstItemsButton")->click();
+    EXPECT_TRUE(field->isEnabled());
+    EXPECT_FALSE(sheet.isAllFiles());
+    EXPECT_EQ(sheet.filesLimit(), u"50"_s);
+    for (const auto& [typed, kept] : { std::pair(u"0"_s, u"1"_s), std::pair(u"12x34567"_s, u"123456"_s) }) {
+        typeInto(field, typed);
+        EXPECT_EQ(sheet.filesLimit(), kept);
+    }
+    part<QRadioButton>(&sheet, "allItemsButton")->click();
+    EXPECT_FALSE(field->isEnabled());
+    EXPECT_TRUE(sheet.isAllFiles());
     // A stored limit the field could not hold shows as the field would keep it.
-    LivePreviewSheet sheet(false, QString());
-    EXPECT_EQ(sheet.filesLimit(), QStringLiteral("1"));
-
-    auto* field = child<QLineEdit>(sheet, "filesLimitField");
-    field->selectAll();
-    QTest::keyClicks(field, QStringLiteral("0"));
-    EXPECT_EQ(sheet.filesLimit(), QStringLiteral("1"));
-    field->selectAll();
-    QTest::keyClicks(field, QStringLiteral("12x34567"));
-    EXPECT_EQ(sheet.filesLimit(), QStringLiteral("123456"));
+    const LivePreviewSheet limited(false, QString());
+    EXPECT_TRUE(part<QLineEdit>(&limited, "filesLimitField")->isEnabled());
+    EXPECT_EQ(limited.filesLimit(), u"1"_s);
 }
 
 TEST(LivePreviewSheetTest, ReturnTurnsOnEscapeCancelsF1AsksForHelp)
 {
-    const struct {
-        Qt::Key key;
-        int result;
-    } rows[] = { { Qt::Key_Return, QDialog::Accepted }, { Qt::Key_Escape, QDialog::Rejected } };
-    for (const auto& row : rows) {
-        LivePreviewSheet sheet(false, QStringLiteral("200"));
+    for (const auto& [key, result] :
+        { std::pair(Qt::Key_Return, QDialog::Accepted), std::pair(Qt::Key_Escape, QDialog::Rejected) }) {
+        LivePreviewSheet sheet(false, u"200"_s);
         sheet.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&sheet));
         QSignalSpy help(&sheet, &LivePreviewSheet::helpRequested);
@@ -65,9 +42,9 @@ TEST(LivePreviewSheetTest, ReturnTurnsOnEscapeCancelsF1AsksForHelp)
         EXPECT_TRUE(QTest::qWaitFor([&help] { return help.count() == 1; }));
         EXPECT_TRUE(sheet.isVisible());
 
-        QTest::keyClick(child<QLineEdit>(sheet, "filesLimitField"), row.key);
-        EXPECT_FALSE(sheet.isVisible()) << row.key;
-        EXPECT_EQ(sheet.result(), row.result) << row.key;
+        QTest::keyClick(part<QLineEdit>(&sheet, "filesLimitField"), key);
+        EXPECT_FALSE(sheet.isVisible()) << key;
+        EXPECT_EQ(sheet.result(), result) << key;
     }
 }
 

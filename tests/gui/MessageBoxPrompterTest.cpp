@@ -1,19 +1,11 @@
 #include "gui/ui/MessageBoxPrompter.h"
 
-#include "core/text/LocalizedStrings.h"
+#include "GuiFixture.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QLocale>
 #include <QMessageBox>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
-#include <functional>
-#include <vector>
-#include <gtest/gtest.h>
 
 using namespace tavrin;
+using namespace tavrin::test;
 
 namespace {
 
@@ -37,25 +29,17 @@ void answerNextBox(const QString& buttonText, Shown& shown)
             answerNextBox(buttonText, shown);
             return;
         }
-        shown.title = box->windowTitle();
-        shown.text = box->text();
-        shown.icon = box->icon();
-        for (QAbstractButton* button : box->buttons())
-            shown.buttons.append(button->text());
-        if (box->defaultButton())
-            shown.defaultButton = box->defaultButton()->text();
-        if (buttonText.isEmpty()) {
-            QTest::keyClick(box, Qt::Key_Escape);
-            return;
-        }
+        shown = { box->windowTitle(), box->text(), box->icon(), {},
+            box->defaultButton() ? box->defaultButton()->text() : QString() };
+        QAbstractButton* answer = nullptr;
         for (QAbstractButton* button : box->buttons()) {
-            if (button->text() == buttonText) {
-                button->click();
-                return;
-            }
+            shown.buttons.append(button->text());
+            answer = button->text() == buttonText ? button : answer;
         }
-        ADD_FAILURE() << "no button " << buttonText.toStdString();
-        box->reject();
+        if (answer)
+            answer->click();
+        else
+            QTest::keyClick(box, Qt::Key_Escape);
     });
 }
 
@@ -67,53 +51,41 @@ struct QuestionRow {
     QString reject;
 };
 
-std::vector<QuestionRow> questionRows()
-{
-    return {
-        // The rename button names the action and the count, in the locale's number format.
-        { "rename", [](MessageBoxPrompter& p) { return p.confirmRename(nullptr, { 1005, 0 }); },
-            localized("ITEMRENAMINGMESSAGE"), localized("RENAMEITEMSBUTTON").arg(QLocale().toString(1005)),
-            localized("CANCEL") },
-        { "rename with conflicts", [](MessageBoxPrompter& p) { return p.confirmRename(nullptr, { 3, 2 }); },
-            localized("ITEMRENAMINGMESSAGE") + QStringLiteral("\n\n") + localized("CONFLICTSWARNING").arg(2),
-            localized("RENAMEITEMSBUTTON").arg(3), localized("CANCEL") },
-        { "log", [](MessageBoxPrompter& p) { return p.continueWithoutLog(nullptr); }, localized("LOGCREATEFAILED"),
-            localized("CONTINUE"), localized("ABORT") },
-        { "yes/no",
-            [](MessageBoxPrompter& p) {
-                return p.askYesNo(
-                    nullptr, { localized("ITEMRENAMINGTITLE"), localized("UNDOFILESFOLDERSDELETECONFIRM") });
-            },
-            localized("UNDOFILESFOLDERSDELETECONFIRM"), localized("YES"), localized("NO") },
-    };
-}
-
+// Each question is answered yes, no, and with Escape, which never goes on.
 TEST(MessageBoxPrompter, QuestionsUseTheTextsOfTheTablesAndDefaultToGoingOn)
 {
-    for (const QuestionRow& row : questionRows()) {
-        for (const bool accept : { true, false }) {
+    const PromptText yesNo { localized("ITEMRENAMINGTITLE"), localized("UNDOFILESFOLDERSDELETECONFIRM") };
+    const QuestionRow rows[] = {
+        // The rename button names the action and the count, in the locale's number format.
+        { "rename",
+            [](MessageBoxPrompter& p) {
+                return p.confirmRename(nullptr, { 1005, 0 });
+            },
+            localized("ITEMRENAMINGMESSAGE"), localized("RENAMEITEMSBUTTON").arg(QLocale().toString(1005)),
+            localized("CANCEL") },
+        { "rename with conflicts",
+            [](MessageBoxPrompter& p) {
+                return p.confirmRename(nullptr, { 3, 2 });
+            },
+            localized("ITEMRENAMINGMESSAGE") + u"\n\n"_s + localized("CONFLICTSWARNING").arg(2),
+            localized("RENAMEITEMSBUTTON").arg(3), localized("CANCEL") },
+        { "log", [](MessageBoxPrompter& p) { return p.continueWithoutLog(nullptr); },
+            localized("LOGCREATEFAILED"), localized("CONTINUE"), localized("ABORT") },
+        { "yes/no", [&](MessageBoxPrompter& p) { return p.askYesNo(nullptr, yesNo); }, yesNo.message,
+            localized("YES"), localized("NO") },
+    };
+    for (const QuestionRow& row : rows) {
+        for (const QString& answer : { row.accept, row.reject, QString() }) {
             MessageBoxPrompter prompter;
             Shown shown;
-            answerNextBox(accept ? row.accept : row.reject, shown);
-            EXPECT_EQ(row.ask(prompter), accept) << row.name;
+            answerNextBox(answer, shown);
+            EXPECT_EQ(row.ask(prompter), answer == row.accept) << row.name;
             EXPECT_EQ(shown.title, localized("ITEMRENAMINGTITLE")) << row.name;
             EXPECT_EQ(shown.text, row.message) << row.name;
             EXPECT_EQ(shown.buttons.size(), 2) << row.name;
-            EXPECT_TRUE(shown.buttons.contains(row.accept)) << row.name;
-            EXPECT_TRUE(shown.buttons.contains(row.reject)) << row.name;
+            EXPECT_TRUE(shown.buttons.contains(row.accept) && shown.buttons.contains(row.reject)) << row.name;
             EXPECT_EQ(shown.defaultButton, row.accept) << row.name;
         }
-    }
-}
-
-TEST(MessageBoxPrompter, EscapeNeverGoesOn)
-{
-    for (const QuestionRow& row : questionRows()) {
-        MessageBoxPrompter prompter;
-        Shown shown;
-        answerNextBox(QString(), shown);
-        EXPECT_FALSE(row.ask(prompter)) << row.name;
-        EXPECT_FALSE(shown.buttons.isEmpty()) << row.name;
     }
 }
 
@@ -128,10 +100,9 @@ TEST(MessageBoxPrompter, AnAlertHasOneOkButtonAndTheIconOfItsSeverity)
         MessageBoxPrompter prompter;
         Shown shown;
         answerNextBox(localized("OK"), shown);
-        prompter.alert(nullptr, severity,
-            { QStringLiteral("Missing Input"), QStringLiteral("Please enter a valid value.") });
-        EXPECT_EQ(shown.title, QStringLiteral("Missing Input"));
-        EXPECT_EQ(shown.text, QStringLiteral("Please enter a valid value."));
+        prompter.alert(nullptr, severity, { u"Missing Input"_s, u"Please enter a valid value."_s });
+        EXPECT_EQ(shown.title, u"Missing Input"_s);
+        EXPECT_EQ(shown.text, u"Please enter a valid value."_s);
         EXPECT_EQ(shown.icon, icon);
         EXPECT_EQ(shown.buttons, QStringList({ localized("OK") }));
     }

@@ -2,12 +2,6 @@
 
 #include "GuiFixture.h"
 
-#include <QCheckBox>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
-#include <gtest/gtest.h>
-
 using namespace tavrin;
 using namespace tavrin::test;
 
@@ -17,20 +11,15 @@ class PreferencesSheetTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        original.defaultRulesFolderPath = tree.folder(QStringLiteral("Rules"));
-        original.defaultProfileFolderPath = tree.folder(QStringLiteral("Profiles"));
-        original.defaultLogFolderPath = tree.folder(QStringLiteral("Logs"));
+        original.defaultRulesFolderPath = tree.folder(u"Rules"_s);
+        original.defaultProfileFolderPath = tree.folder(u"Profiles"_s);
+        original.defaultLogFolderPath = tree.folder(u"Logs"_s);
         sheet = std::make_unique<PreferencesSheet>(original, true, &prompter);
         sheet->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(sheet.get()));
     }
 
-    template <typename T> T* child(const char* name) const
-    {
-        T* found = sheet->findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
+    QLineEdit* field(const char* name) const { return part<QLineEdit>(sheet.get(), name); }
 
     TempTree tree;
     Preferences original;
@@ -38,67 +27,49 @@ protected:
     std::unique_ptr<PreferencesSheet> sheet;
 };
 
-TEST_F(PreferencesSheetTest, AnswersTheEditedValuesWithCleanedPaths)
-{
-    EXPECT_EQ(sheet->preferences(), original);
-
-    child<QLineEdit>("logsFolderField")->setText(tree.root() + QStringLiteral("//Rules/../Logs/"));
-    child<QCheckBox>("automaticSaveBox")->click();
-    QTest::keyClick(child<QLineEdit>("rulesFolderField"), Qt::Key_Return);
-
-    EXPECT_TRUE(prompter.alerts.isEmpty());
-    EXPECT_EQ(sheet->result(), QDialog::Accepted);
-    Preferences expected = original;
-    expected.automaticSaveCurrProfile = true;
-    EXPECT_EQ(sheet->preferences(), expected);
-}
-
 // A relative path would be read against the program's working folder, which the user
 // never sees: "." is refused although it always names a folder.
 TEST_F(PreferencesSheetTest, SaveRefusesAFolderThatIsNotThereAndFocusesItsField)
 {
-    const struct {
-        const char* field;
-        QString path;
-    } rows[] = {
-        { "rulesFolderField", tree.path(QStringLiteral("Gone")) },
-        { "profilesFolderField", QStringLiteral(".") },
-        { "logsFolderField", tree.file(QStringLiteral("notes.txt")) },
+    const std::pair<const char*, QString> rows[] = {
+        { "rulesFolderField", tree.path(u"Gone"_s) },
+        { "profilesFolderField", u"."_s },
+        { "logsFolderField", tree.file(u"notes.txt"_s) },
     };
-    for (const auto& row : rows) {
-        auto* field = child<QLineEdit>(row.field);
-        const QString before = field->text();
-        field->setText(row.path);
+    for (const auto& [name, path] : rows) {
+        const QString before = field(name)->text();
+        field(name)->setText(path);
         prompter.alerts.clear();
-        child<QPushButton>("saveButton")->click();
-
+        part<QPushButton>(sheet.get(), "saveButton")->click();
         EXPECT_EQ(prompter.alertTexts(),
-            QStringList(QStringLiteral("Preferences|There is no folder at “%1”. Choose a folder "
-                                       "that exists.")
-                            .arg(row.path)))
-            << row.field;
-        EXPECT_TRUE(sheet->isVisible()) << row.field;
-        EXPECT_NE(sheet->result(), QDialog::Accepted) << row.field;
-        EXPECT_TRUE(field->hasFocus()) << row.field;
-        field->setText(before);
+            QStringList(u"Preferences|There is no folder at “%1”. Choose a folder that exists."_s.arg(path)));
+        EXPECT_TRUE(sheet->isVisible()) << name;
+        EXPECT_TRUE(field(name)->hasFocus()) << name;
+        field(name)->setText(before);
     }
+
+    field("logsFolderField")->setText(tree.root() + u"//Rules/../Logs/"_s);
+    part<QCheckBox>(sheet.get(), "automaticSaveBox")->click();
+    QTest::keyClick(field("rulesFolderField"), Qt::Key_Return);
+    EXPECT_EQ(sheet->result(), QDialog::Accepted);
+    Preferences expected = original;
+    expected.automaticSaveCurrProfile = true;
+    EXPECT_EQ(sheet->preferences(), expected) << "the paths are cleaned";
 }
 
+// The chooser starts at the field's folder; a cancelled one leaves the field as it was.
 TEST_F(PreferencesSheetTest, ChooserStartsAtTheFieldsFolderAndFillsIt)
 {
-    const QString chosen = tree.folder(QStringLiteral("Elsewhere/Rules"));
-    prompter.chosenFile = chosen + QLatin1Char('/');
-    child<QPushButton>("rulesFolderButton")->click();
-    EXPECT_EQ(child<QLineEdit>("rulesFolderField")->text(), chosen);
-    // A cancelled dialog answers nothing and leaves the field as it was.
-    prompter.chosenFile.clear();
-    child<QPushButton>("rulesFolderButton")->click();
-    EXPECT_EQ(child<QLineEdit>("rulesFolderField")->text(), chosen);
-
+    const QString chosen = tree.folder(u"Elsewhere/Rules"_s);
+    for (const QString& answer : { chosen + u'/', QString() }) {
+        prompter.chosenFile = answer;
+        part<QPushButton>(sheet.get(), "rulesFolderButton")->click();
+        EXPECT_EQ(field("rulesFolderField")->text(), chosen);
+    }
     EXPECT_EQ(prompter.choices, QList({ Prompter::Choice::Folder, Prompter::Choice::Folder }));
     EXPECT_EQ(prompter.chooserQuestions,
-        QStringList({ QStringLiteral("Choose the Folder for Rules|") + original.defaultRulesFolderPath,
-            QStringLiteral("Choose the Folder for Rules|") + chosen }));
+        QStringList({ u"Choose the Folder for Rules|"_s + original.defaultRulesFolderPath,
+            u"Choose the Folder for Rules|"_s + chosen }));
     EXPECT_EQ(sheet->preferences().defaultRulesFolderPath, chosen);
 }
 

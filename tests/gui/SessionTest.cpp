@@ -2,7 +2,6 @@
 
 #include "core/formats/KeyedArchive.h"
 #include "core/profiles/ProfileFile.h"
-#include "core/text/LocalizedStrings.h"
 #include "gui/app/DocumentOpener.h"
 #include "gui/control/ActivityStatus.h"
 #include "gui/control/LivePreview.h"
@@ -27,16 +26,32 @@ protected:
     {
         return runAndWait(&rename(), &RenameController::livePreviewFinished, trigger);
     }
+
+    // Turns the live preview on and waits for the preview that starts with it.
+    bool startLivePreview()
+    {
+        return livePreviewAndWait([&] {
+            rename().setLivePreview(true);
+            return true;
+        });
+    }
 };
 
-TEST_F(SessionTest, QuitThenStartGivesBackTheOptionsTheRuleChainAndTheLivePreview)
+// What the user had at quit comes back at start: the options, the rule chain, the live
+// preview, and the profile in use, saved first when the preferences say so.
+TEST_F(SessionTest, QuitThenStartGivesBackTheSession)
 {
     const QVariantList rules { QVariantMap { { u"rule"_s, u"General"_s }, { u"isActive"_s, u"1"_s } } };
+    const QString profile = tree.path(u"photos.tnprofile"_s);
+    ASSERT_TRUE(session().saveProfile(profile));
     settings().chooseGeneralOption(4);
     settings().chooseFilesOrFolders(1);
     session().setRules(rules);
     rename().setLivePreviewCoverage(false, u"50"_s);
     rename().setLivePreview(true);
+    Preferences preferences = session().preferences();
+    preferences.automaticSaveCurrProfile = true;
+    session().setPreferences(preferences);
     controller.applicationShouldTerminate();
 
     TavrinAppController second;
@@ -46,7 +61,7 @@ TEST_F(SessionTest, QuitThenStartGivesBackTheOptionsTheRuleChainAndTheLivePrevie
     EXPECT_EQ(second.session().rules(), rules);
     EXPECT_TRUE(second.rename().livePreview().isLivePreviewEnabled());
     EXPECT_EQ(second.rename().livePreview().recordLimit(), 50);
-    EXPECT_TRUE(second.session().currProfileFile().isEmpty());
+    EXPECT_EQ(second.session().currProfileFile(), profile);
 }
 
 TEST_F(SessionTest, ADamagedRuleChainIsDroppedFromTheDefaults)
@@ -57,22 +72,6 @@ TEST_F(SessionTest, ADamagedRuleChainIsDroppedFromTheDefaults)
         EXPECT_TRUE(session().rules().isEmpty());
         EXPECT_FALSE(session().userDefaults().contains(QLatin1String(userdefaults::LastRule)));
     }
-}
-
-TEST_F(SessionTest, TheProfileInUseIsSavedOnQuitWhenAutomaticAndOpenedAgainAtStart)
-{
-    const QString profile = tree.path(u"photos.tnprofile"_s);
-    ASSERT_TRUE(session().saveProfile(profile));
-    settings().setInsertDeleteInsert(u"2024 "_s);
-    Preferences preferences = session().preferences();
-    preferences.automaticSaveCurrProfile = true;
-    session().setPreferences(preferences);
-    controller.applicationShouldTerminate();
-
-    TavrinAppController second;
-    EXPECT_EQ(second.applicationDidFinishLaunching(), std::nullopt);
-    EXPECT_EQ(second.session().currProfileFile(), profile);
-    EXPECT_EQ(second.settings().insertDeleteInsert(), u"2024 "_s);
 }
 
 TEST_F(SessionTest, ALastProfileThatIsGoneIsForgottenAndTheLastOptionsApply)
@@ -88,6 +87,7 @@ TEST_F(SessionTest, ALastProfileThatIsGoneIsForgottenAndTheLastOptionsApply)
     EXPECT_TRUE(failure->message.contains(u"gone.tnprofile"_s));
     EXPECT_FALSE(second.session().userDefaults().contains(QLatin1String(userdefaults::LastProfile)));
     EXPECT_EQ(second.settings().replaceRemoveWith(), u"kept"_s);
+    EXPECT_TRUE(second.session().currProfileFile().isEmpty());
 }
 
 TEST_F(SessionTest, NoProfileIsOpenedWhileAJobWorksOnTheList)
@@ -132,61 +132,14 @@ TEST_F(SessionTest, FilesOpenedOneByOneArriveAsOneAddAndDocumentsAreToldApart)
     EXPECT_EQ(sheet.first().first().toStringList(), items);
 }
 
-TEST_F(SessionTest, RapidChangesCollapseIntoOneLivePreviewAfterTheLast)
-{
-    listFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s });
-    chooseUpperCase();
-    ASSERT_TRUE(livePreviewAndWait([&] {
-        rename().setLivePreview(true);
-        return true;
-    }));
-    QSignalSpy previews(&rename(), &RenameController::livePreviewFinished);
-    QElapsedTimer sinceLastChange;
-    for (const int caseCode : { 2, 3, 1 }) {
-        settings().setGeneralFileNameCase(caseCode);
-        sinceLastChange.start();
-        QTest::qWait(LivePreview::DelayMilliseconds / 10);
-    }
-    ASSERT_TRUE(previews.wait(kWaitMilliseconds));
-    // A coarse timer may fire up to 5 % early.
-    EXPECT_GE(sinceLastChange.elapsed(), LivePreview::DelayMilliseconds * 9 / 10);
-    QTest::qWait(2 * LivePreview::DelayMilliseconds);
-    EXPECT_EQ(previews.count(), 1);
-    EXPECT_EQ(newNames().first(), u"A.txt"_s);
-}
-
-struct CoverageRow {
-    bool allFiles;
-    int proposals;
-    bool hasFilesForRenaming;
-};
-
-// A live preview that covered only part of the list cannot be renamed.
-TEST_F(SessionTest, ALimitedLivePreviewLeavesTheRestEmptyAndCannotBeRenamed)
-{
-    listFiles({ u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s });
-    chooseUpperCase();
-    for (const CoverageRow& row : { CoverageRow { false, 2, false }, CoverageRow { true, 5, true } }) {
-        rename().setLivePreviewCoverage(row.allFiles, u"2"_s);
-        QSignalSpy messages(&controller.status(), &ActivityStatus::progressMessage);
-        ASSERT_TRUE(
-            livePreviewAndWait([&] { return rename().quickPreview(rename().livePreview().recordLimit()); }));
-        EXPECT_EQ(proposals(), row.proposals);
-        EXPECT_EQ(rename().isHasFilesForRenaming(), row.hasFilesForRenaming);
-        // The status line says why Rename stays disabled.
-        ASSERT_FALSE(messages.isEmpty());
-        EXPECT_EQ(messages.last().first().toString(),
-            row.allFiles ? QString() : localized("PARTIALLIVEPREVIEW").arg(2));
-    }
-}
-
-TEST_F(SessionTest, NoLivePreviewWhenOffOrEmptyAndOneAfterAWholeProfile)
+// Rapid changes, a whole profile the last of them, collapse into one live preview after the
+// last; with the live preview off or an empty list none is armed.
+TEST_F(SessionTest, ChangesCollapseIntoOneLivePreviewAfterTheLast)
 {
     rename().setLivePreview(true);
     settings().setGeneralFileNameCase(2);
     EXPECT_FALSE(rename().livePreview().isTimerActive()) << "empty list";
-
-    listFiles({ u"a.txt"_s, u"b.txt"_s });
+    listFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s });
     rename().setLivePreview(false);
     settings().setGeneralFileNameCase(3);
     EXPECT_FALSE(rename().livePreview().isTimerActive()) << "live preview off";
@@ -195,16 +148,40 @@ TEST_F(SessionTest, NoLivePreviewWhenOffOrEmptyAndOneAfterAWholeProfile)
     chooseUpperCase();
     ASSERT_TRUE(session().saveProfile(profile));
     settings().setGeneralFileNameCase(2);
-    ASSERT_TRUE(livePreviewAndWait([&] {
-        rename().setLivePreview(true);
-        return true;
-    }));
+    ASSERT_TRUE(startLivePreview());
     QSignalSpy previews(&rename(), &RenameController::livePreviewFinished);
+    for (const int caseCode : { 3, 2 }) {
+        settings().setGeneralFileNameCase(caseCode);
+        QTest::qWait(LivePreview::DelayMilliseconds / 10);
+    }
+    QElapsedTimer sinceLastChange;
+    sinceLastChange.start();
     ASSERT_EQ(session().setCurrentSettings(profile).result, ProfileLoadResult::Loaded);
     ASSERT_TRUE(previews.wait(kWaitMilliseconds));
+    // A coarse timer may fire up to 5 % early.
+    EXPECT_GE(sinceLastChange.elapsed(), LivePreview::DelayMilliseconds * 9 / 10);
     QTest::qWait(2 * LivePreview::DelayMilliseconds);
     EXPECT_EQ(previews.count(), 1);
     EXPECT_EQ(newNames().first(), u"A.txt"_s);
+}
+
+// A live preview that covered only part of the list cannot be renamed.
+TEST_F(SessionTest, ALimitedLivePreviewLeavesTheRestEmptyAndCannotBeRenamed)
+{
+    listFiles({ u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s });
+    chooseUpperCase();
+    for (const bool allFiles : { false, true }) {
+        rename().setLivePreviewCoverage(allFiles, u"2"_s);
+        QSignalSpy messages(&controller.status(), &ActivityStatus::progressMessage);
+        ASSERT_TRUE(
+            livePreviewAndWait([&] { return rename().quickPreview(rename().livePreview().recordLimit()); }));
+        EXPECT_EQ(proposals(), allFiles ? 5 : 2);
+        EXPECT_EQ(rename().isHasFilesForRenaming(), allFiles);
+        // The status line says why Rename stays disabled.
+        ASSERT_FALSE(messages.isEmpty());
+        EXPECT_EQ(messages.last().first().toString(),
+            allFiles ? QString() : localized("PARTIALLIVEPREVIEW").arg(2));
+    }
 }
 
 // Regression: F5 pressed within the live-preview delay showed the full preview, then the
@@ -213,10 +190,7 @@ TEST_F(SessionTest, AFullPreviewDisarmsTheWaitingLivePreview)
 {
     listFiles({ u"a.txt"_s, u"b.txt"_s, u"c.txt"_s });
     rename().setLivePreviewCoverage(false, u"1"_s);
-    ASSERT_TRUE(livePreviewAndWait([&] {
-        rename().setLivePreview(true);
-        return true;
-    }));
+    ASSERT_TRUE(startLivePreview());
     QSignalSpy livePreviews(&rename(), &RenameController::livePreviewFinished);
     chooseUpperCase();
     ASSERT_TRUE(rename().livePreview().isTimerActive());

@@ -11,16 +11,12 @@ tavrin_add_test(test_gui_window GUI SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/WindowPolishTest.cpp)
 tavrin_add_test(test_gui_widgets GUI SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/ActionTabsTest.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/AttachedWindowTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FileTableModelTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/HelpPageTest.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/ItemIconCacheTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/LivePreviewSheetTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageBoxPrompterTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/OutsideItemsTest.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/PasteboardItemsSheetTest.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/PreferencesSheetTest.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TextFieldFormatterTest.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/PreferencesSheetTest.cpp)
 tavrin_add_test(test_gui_audio_tab GUI
   SOURCES ${CMAKE_CURRENT_LIST_DIR}/AudioTabTest.cpp ${PROJECT_SOURCE_DIR}/tests/core/metadata/AudioFiles.cpp
   LIBS PkgConfig::TAGLIB)
