@@ -71,14 +71,6 @@ QDateTime dateOf(const FileSystemItem& item, const DateTimeOptions& options)
     return date;
 }
 
-QString insertText(const FileSystemItem& item, const DateTimeOptions& options)
-{
-    QString date = formatDate(dateOf(item, options), dateTimeFormat(options));
-    if (options.isColonReplace)
-        date.replace(QLatin1Char(':'), options.colonReplace);
-    return options.prefix + formatWithoutArguments(date) + formatWithoutArguments(options.suffix);
-}
-
 }  // namespace
 
 DateTimeOptions DateTimeOptions::from(const OptionValues& values)
@@ -126,13 +118,21 @@ QString dateTimeFormat(const DateTimeOptions& options)
     return date + quotedLiteral(options.dateTimeSeparator) + time;
 }
 
+QString dateTimeText(const QDateTime& date, const DateTimeOptions& options)
+{
+    QString text = formatDate(date, dateTimeFormat(options));
+    if (options.isColonReplace)
+        text.replace(QLatin1Char(':'), options.colonReplace);
+    return options.prefix + formatWithoutArguments(text) + formatWithoutArguments(options.suffix);
+}
+
 // The typed texts and the date become the insert text, whose every "/" the insertion keeps
 // as ":": as a separator, as a colon's replacement or from a pattern such as "MM/dd/yyyy".
 bool renameByDateTime(FileSystemItem& item, const DateTimeOptions& options, QString& error)
 {
     try {
         InsertOptions insert = options.placement;
-        insert.text = insertText(item, options);
+        insert.text = dateTimeText(dateOf(item, options), options);
         return renameByInsert(item, insert, error);
     } catch (const std::exception& e) {
         error = localized("UNABLETOGENERATENEWFILENAMEERROR").arg(QString::fromUtf8(e.what()));

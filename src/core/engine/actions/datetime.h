@@ -44,6 +44,11 @@ struct DateTimeOptions {
 // both are on and it is not empty; "dd/MM/yyyy hh:mm:ss a" when both are off.
 QString dateTimeFormat(const DateTimeOptions& options);
 
+// The text the action puts into a name for `date`: the date formatted in the default locale
+// and time zone, its colons replaced when asked, between the prefix and the suffix, with the
+// directives of the date text and of the suffix dropped (see renameByDateTime).
+QString dateTimeText(const QDateTime& date, const DateTimeOptions& options);
+
 // Puts the item's creation date (its modification date where the file system records no
 // birth), its modification date or the custom date into its name, formatted in the default
 // locale and time zone, with every ":" of the date replaced when asked, between the prefix

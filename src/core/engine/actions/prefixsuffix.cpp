@@ -8,7 +8,6 @@
 #include "core/text/LocalizedStrings.h"
 #include "core/text/NameParts.h"
 
-#include <QDateTime>
 #include <exception>
 
 namespace tavrin {
@@ -35,8 +34,7 @@ QDateTime dateOf(const FileSystemItem& item, prefixsuffixdate::PrefixSuffixDate 
 
 QString withDate(const FileSystemItem& item, const QString& name, const PrefixSuffixOptions& options)
 {
-    const QString date = formatDate(dateOf(item, options.fileDate), prefixSuffixDateFormat(options));
-    const QString text = options.datePrefix + date + options.dateSuffix;
+    const QString text = prefixSuffixDateText(dateOf(item, options.fileDate), options);
     return (options.isDatePrefix ? text : QString()) + name + (options.isDateSuffix ? text : QString());
 }
 
@@ -69,6 +67,11 @@ QString prefixSuffixDateFormat(const PrefixSuffixOptions& options)
 {
     return assembledFormat(options.dateFields, QString::fromLatin1(dateformat::DateFallback)) + QLatin1Char(' ')
         + assembledFormat(options.timeFields, QString::fromLatin1(dateformat::TimeFallback));
+}
+
+QString prefixSuffixDateText(const QDateTime& date, const PrefixSuffixOptions& options)
+{
+    return options.datePrefix + formatDate(date, prefixSuffixDateFormat(options)) + options.dateSuffix;
 }
 
 bool renameByPrefixSuffix(FileSystemItem& item, const PrefixSuffixOptions& options, QString& error)

@@ -3,6 +3,7 @@
 #include "core/engine/actions/dateformat.h"
 #include "core/list/FileSystemItem.h"
 
+#include <QDateTime>
 #include <QString>
 
 namespace tavrin {
@@ -37,6 +38,10 @@ struct PrefixSuffixOptions {
 
 // The pattern of date mode: the date fields, one space, the time fields.
 QString prefixSuffixDateFormat(const PrefixSuffixOptions& options);
+
+// The text date mode puts beside a name for `date`: the date prefix, the date formatted in
+// the default locale and time zone, the date suffix.
+QString prefixSuffixDateText(const QDateTime& date, const PrefixSuffixOptions& options);
 
 // String mode puts the prefix before the name and the suffix after it; a typed "/" in them
 // stands for ":". Date mode puts the date prefix, the date and the date suffix before the
