@@ -39,14 +39,25 @@ protected:
 
     CliRun run(const char* command, const char* tab, const QStringList& options)
     {
-        QStringList arguments {q(command), QStringLiteral("--recursive"), QStringLiteral("--tab"), q(tab)};
-        if (q(command) == QLatin1String("apply"))
-            arguments << QStringLiteral("--yes");
+        QStringList arguments {q(command), QStringLiteral("--recursive"), QStringLiteral("--yes"),
+                               QStringLiteral("--tab"), q(tab)};
         arguments << options << tree.path(QStringLiteral("Trips"));
         return test::runCli(arguments, QString(), environment);
     }
 
-    QStringList renamed() const { return QDir(tree.path(q("Trips/Rome"))).entryList(QDir::Files, QDir::Name); }
+    QString firstLine(const char* tab, const QStringList& options)
+    {
+        const CliRun preview = run("preview", tab, options);
+        EXPECT_EQ(preview.exitCode, 0) << qPrintable(preview.err);
+        return preview.out.section(u'\n', 0, 0);
+    }
+
+    QStringList appliedNames(const char* tab, const QStringList& options)
+    {
+        const CliRun apply = run("apply", tab, options);
+        EXPECT_EQ(apply.exitCode, 0) << qPrintable(apply.err);
+        return QDir(tree.path(q("Trips/Rome"))).entryList(QDir::Files, QDir::Name);
+    }
 
     void expectInvalid(const char* tab, const QStringList& options, const char* message)
     {
@@ -62,47 +73,32 @@ protected:
 
 TEST_F(DateCommandTest, DateTimeTab)
 {
-    const QString created = test::reportedCreation(tree.path(q("Trips/Rome/IMG_1.jpg"))).toString(u"ddMMyyyyHHmmss");
-    const CliRun preview = run("preview", "datetime", {});
-    EXPECT_EQ(preview.exitCode, 0) << qPrintable(preview.err);
-    EXPECT_EQ(preview.out.section(u'\n', 0, 0), q("IMG_1.jpg\t") + created + q("IMG_1.jpg"));
-
-    const CliRun custom = run("preview", "datetime",
-                              sets({"dateTimeDateOptionIndex=2", "dateTimeCustomDate=2021-03-04T05:06:07Z",
-                                    "dateTimeFormatDatePart2=MMMM", "dateTimeSeparator=_"}));
-    EXPECT_EQ(custom.out.section(u'\n', 0, 0), q("IMG_1.jpg\t04March2021_060607IMG_1.jpg"));
-
-    const CliRun apply = run("apply", "datetime",
-                             sets({"dateTimeDateOptionIndex=1", "dateTimeOptionsIndex=4", "dateTimeAtAfterText=_",
-                                   "hasTimeFormat=0"}));
-    EXPECT_EQ(apply.exitCode, 0) << qPrintable(apply.err);
-    EXPECT_EQ(renamed(), QStringList({q("IMG_050320211.jpg"), q("IMG_050320212.jpg")}));
-
+    EXPECT_EQ(firstLine("datetime", sets({"dateTimeDateOptionIndex=2", "dateTimeCustomDate=2021-03-04T05:06:07Z",
+                                          "dateTimeFormatDatePart2=MMMM", "dateTimeSeparator=_"})),
+              q("IMG_1.jpg\t04March2021_060607IMG_1.jpg"));
+    EXPECT_EQ(appliedNames("datetime", sets({"dateTimeDateOptionIndex=1", "dateTimeOptionsIndex=4",
+                                             "dateTimeAtAfterText=_", "hasTimeFormat=0"})),
+              QStringList({q("IMG_050320211.jpg"), q("IMG_050320212.jpg")}));
     expectInvalid("datetime", sets({"dateTimeOptionsIndex=3"}),
                   "Insert the Date Before Which Text?: Please enter the text to look for.");
 }
 
 TEST_F(DateCommandTest, PrefixSuffixTab)
 {
-    const CliRun preview = run("preview", "prefixsuffix", sets({"prefixSuffixPrefix=Rome/", "prefixSuffixSuffix=_x"}));
-    EXPECT_EQ(preview.out.section(u'\n', 0, 0), q("IMG_1.jpg\tRome/IMG_1_x.jpg"));
-
-    const CliRun apply = run("apply", "prefixsuffix",
-                             sets({"prefixSuffixIndex=1", "isPrefixSuffixDateSuffix=1",
-                                   "prefixSuffixFileDateAttribute=2", "prefixSuffixDatePrefix= "}));
-    EXPECT_EQ(apply.exitCode, 0) << qPrintable(apply.err);
-    EXPECT_EQ(renamed(), QStringList({q("IMG_1 05032021 143000.jpg"), q("IMG_2 05032021 143000.jpg")}));
-
+    EXPECT_EQ(firstLine("prefixsuffix", sets({"prefixSuffixPrefix=Rome/", "prefixSuffixSuffix=_x"})),
+              q("IMG_1.jpg\tRome/IMG_1_x.jpg"));
+    EXPECT_EQ(appliedNames("prefixsuffix", sets({"prefixSuffixIndex=1", "isPrefixSuffixDateSuffix=1",
+                                                 "prefixSuffixFileDateAttribute=2", "prefixSuffixDatePrefix= "})),
+              QStringList({q("IMG_1 05032021 143000.jpg"), q("IMG_2 05032021 143000.jpg")}));
     expectInvalid("prefixsuffix", sets({"prefixSuffixIndex=2"}), "'2' is not a choice of 'prefixSuffixIndex'");
 }
 
 TEST_F(DateCommandTest, PathComponentsTab)
 {
-    const CliRun apply = run("apply", "pathcomponents",
-                             sets({"pathComponentsLevelNo=2", "pathComponentsSeparator=-", "pathComponentsSuffix= "}));
-    EXPECT_EQ(apply.exitCode, 0) << qPrintable(apply.err);
-    EXPECT_EQ(renamed(), QStringList({q("Trips-Rome IMG_1.jpg"), q("Trips-Rome IMG_2.jpg")}));
-
+    EXPECT_EQ(appliedNames("pathcomponents", sets({"pathComponentsLevelNo=2", "pathComponentsSeparator=-",
+                                                   "pathComponentsSuffix= ", "pathComponentsOptionsIndex=3",
+                                                   "pathComponentsAtBeforeText=_"})),
+              QStringList({q("IMGTrips-Rome _1.jpg"), q("IMGTrips-Rome _2.jpg")}));
     expectInvalid("pathcomponents", sets({"pathComponentsOptionsIndex=4"}),
                   "Insert the Folder Name After Which Text?: Please enter the text to look for.");
 }

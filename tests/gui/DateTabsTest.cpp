@@ -2,20 +2,16 @@
 #include "core/engine/actions/DateTestSupport.h"
 #include "core/engine/actions/datetime.h"
 #include "core/text/LocalizedStrings.h"
+#include "gui/engine/ActionTab.h"
 #include "gui/engine/ActionTabs.h"
-#include "gui/engine/DateTimeTab.h"
-#include "gui/engine/PathComponentsTab.h"
-#include "gui/engine/PrefixSuffixTab.h"
 #include "gui/engine/RenamePanel.h"
 #include "gui/list/FileTableView.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTabBar>
 #include <gtest/gtest.h>
 
 using namespace tavrin;
@@ -28,153 +24,8 @@ QString q(const char* utf8)
     return QString::fromUtf8(utf8);
 }
 
-// Presses a button or types into a text field of a tab, as a user would.
-void perform(const ActionTab& tab, const char* name, const QString& typed = {})
-{
-    if (typed.isNull()) {
-        auto* button = tab.findChild<QAbstractButton*>(q(name));
-        ASSERT_NE(button, nullptr) << name;
-        button->setFocus();
-        QTest::keyClick(button, Qt::Key_Space);
-        return;
-    }
-    auto* field = qobject_cast<QLineEdit*>(tab.fieldForOption(q(name)));
-    ASSERT_NE(field, nullptr) << name;
-    field->setFocus();
-    field->selectAll();
-    QTest::keyClicks(field, typed);
-}
-
-bool isEnabled(const ActionTab& tab, const char* optionKey)
-{
-    QWidget* field = tab.fieldForOption(q(optionKey));
-    EXPECT_NE(field, nullptr) << optionKey;
-    return field && field->isEnabled();
-}
-
-QString exampleOf(const ActionTab& tab, const char* objectName)
-{
-    auto* example = tab.findChild<QLabel*>(q(objectName));
-    EXPECT_NE(example, nullptr) << objectName;
-    return example ? example->text() : QString();
-}
-
-// The three tabs on their own over settings at their start values, in Berlin, in US English.
-class DateTabsTest : public ::testing::Test {
-protected:
-    void SetUp() override
-    {
-        test::useFixedZoneAndLocale();
-        settings.resetToStartValues();
-        for (QWidget* tab : { static_cast<QWidget*>(&dateTime), static_cast<QWidget*>(&prefixSuffix),
-                 static_cast<QWidget*>(&pathComponents) }) {
-            tab->show();
-            ASSERT_TRUE(QTest::qWaitForWindowExposed(tab));
-        }
-    }
-
-    Settings settings;
-    DateTimeTab dateTime { settings };
-    PrefixSuffixTab prefixSuffix { settings };
-    PathComponentsTab pathComponents { settings };
-};
-
-TEST_F(DateTabsTest, DateTimeInputsAreEnabledByTheirChoicesAndThePreviewFollows)
-{
-    const struct {
-        const char* pressed;
-        const char* field;
-        bool enabled;
-    } rows[] = {
-        { nullptr, Settings::dateTimeCustomDateKey, false },
-        { "dateTimeCustom", Settings::dateTimeCustomDateKey, true },
-        { "dateTimeModified", Settings::dateTimeCustomDateKey, false },
-        { nullptr, Settings::dateTimeSeparatorKey, true },
-        { Settings::hasTimeFormatKey, Settings::dateTimeFormatTimePart1Key, false },
-        { nullptr, Settings::dateTimeSeparatorKey, false },
-        { nullptr, Settings::dateTimeFormatDatePart1Key, true },
-        { nullptr, Settings::dateTimeColonReplaceKey, false },
-        { Settings::isDateTimeColonReplaceKey, Settings::dateTimeColonReplaceKey, true },
-        { nullptr, Settings::dateTimeAtBeforeTextKey, false },
-        { "dateTimePlace3", Settings::dateTimeAtBeforeTextKey, true },
-        { nullptr, Settings::dateTimeAtAfterTextKey, false },
-    };
-    QSignalSpy changes(&settings, &Settings::settingsChanged);
-    for (const auto& row : rows) {
-        if (row.pressed)
-            perform(dateTime, row.pressed);
-        EXPECT_EQ(isEnabled(dateTime, row.field), row.enabled) << (row.pressed ? row.pressed : "") << " " << row.field;
-    }
-    EXPECT_EQ(changes.count(), 5) << "every choice asks for a preview";
-    EXPECT_EQ(settings.dateTimeDateOptionIndex(), datetimesource::Modified);
-    EXPECT_FALSE(settings.hasDateTimeCustomDate());
-    EXPECT_TRUE(settings.isDateTimeAtBeforeText());
-}
-
-TEST_F(DateTabsTest, DateTimeExampleShowsTheTextAsTheListWill)
-{
-    settings.chooseDateTimeSource(datetimesource::Custom);
-    settings.setDateTimeCustomDate(test::inBerlin(2021, 3, 5, 14, 30, 9));
-    EXPECT_EQ(exampleOf(dateTime, "dateTimeExample"), q("Example: 05032021143009"));
-
-    auto* month = qobject_cast<QComboBox*>(dateTime.fieldForOption(q(Settings::dateTimeFormatDatePart2Key)));
-    ASSERT_NE(month, nullptr);
-    month->setFocus();
-    QTest::keyClick(month, Qt::Key_Down);
-    EXPECT_EQ(settings.dateTimeFormatDatePart2(), q("MMM"));
-    perform(dateTime, Settings::dateTimeSeparatorKey, q("_"));
-    perform(dateTime, Settings::dateTimeFormatTimeSeperator1Key, q(":"));
-    perform(dateTime, Settings::dateTimeSuffixKey, q(" %d%%"));
-    EXPECT_EQ(exampleOf(dateTime, "dateTimeExample"), q("Example: 05Mar2021_14/3009 %"));
-}
-
-TEST_F(DateTabsTest, PrefixSuffixModeIsChosenWithoutAPreview)
-{
-    auto* textGroup = prefixSuffix.findChild<QGroupBox*>(q("prefixSuffixTextGroup"));
-    auto* dateGroup = prefixSuffix.findChild<QGroupBox*>(q("prefixSuffixDateGroup"));
-    ASSERT_TRUE(textGroup && dateGroup);
-    EXPECT_TRUE(textGroup->isEnabled());
-    EXPECT_FALSE(dateGroup->isEnabled());
-
-    QSignalSpy changes(&settings, &Settings::settingsChanged);
-    perform(prefixSuffix, "prefixSuffixDate");
-    EXPECT_EQ(changes.count(), 0);
-    EXPECT_TRUE(settings.isPrefixSuffixDate());
-    EXPECT_FALSE(settings.isPrefixSuffixString());
-    EXPECT_EQ(settings.prefixSuffixIndex(), 1);
-    EXPECT_FALSE(textGroup->isEnabled());
-    EXPECT_TRUE(dateGroup->isEnabled());
-
-    // Literal fields give the same text at any moment.
-    for (auto set : { &Settings::setPrefixSuffixDatePart1, &Settings::setPrefixSuffixDatePart2,
-             &Settings::setPrefixSuffixDatePart3, &Settings::setPrefixSuffixTimePart1,
-             &Settings::setPrefixSuffixTimePart2, &Settings::setPrefixSuffixTimePart3 })
-        (settings.*set)(q("None"));
-    settings.setPrefixSuffixDateSeperator1(q("'day'"));
-    settings.setPrefixSuffixTimeSeperator1(q("'time'"));
-    perform(prefixSuffix, Settings::prefixSuffixDatePrefixKey, q("a:("));
-    perform(prefixSuffix, Settings::prefixSuffixDateSuffixKey, q(")"));
-    EXPECT_EQ(exampleOf(prefixSuffix, "prefixSuffixExample"), q("Example: a/(day time)"));
-}
-
-TEST_F(DateTabsTest, PathComponentsPlaceIsChosenWithoutAPreview)
-{
-    perform(pathComponents, Settings::pathComponentsLevelNoKey, q("3"));
-    EXPECT_EQ(settings.pathComponentsLevelNo(), 3);
-    EXPECT_FALSE(isEnabled(pathComponents, Settings::pathComponentsAtAfterTextKey));
-
-    QSignalSpy changes(&settings, &Settings::settingsChanged);
-    perform(pathComponents, "pathComponentsPlace4");
-    EXPECT_EQ(changes.count(), 0);
-    EXPECT_EQ(settings.pathComponentsOptionsIndex(), 4);
-    EXPECT_TRUE(settings.isPathComponentsAtAfterText());
-    EXPECT_FALSE(settings.isPathComponentsAtBeginning());
-    EXPECT_TRUE(isEnabled(pathComponents, Settings::pathComponentsAtAfterTextKey));
-    EXPECT_FALSE(isEnabled(pathComponents, Settings::pathComponentsAtBeforeTextKey));
-}
-
-// The tabs in the window, over files whose dates the test sets.
-class DateTabsWindowTest : public test::WindowFixture {
+// The three tabs in the window, dates in Berlin in US English.
+class DateTabsTest : public test::WindowFixture {
 protected:
     void SetUp() override
     {
@@ -184,40 +35,112 @@ protected:
 
     ActionTab* showTab(int tabNumber)
     {
-        ActionTabs* tabs = window.renamePanel()->tabs();
-        ActionTab* page = tabs->pageForTab(tabNumber);
-        EXPECT_NE(page, nullptr) << tabNumber;
-        QTest::mouseClick(
-            tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(tabs->indexOf(page)).center());
-        EXPECT_EQ(settings().selectedTab(), tabNumber);
+        settings().setSelectedTab(tabNumber);
+        page = window.renamePanel()->tabs()->currentActionTab();
         return page;
     }
 
-    QStringList shownNewNames() const
+    // Presses a button, or types into a text field, as a user would.
+    void perform(const char* name, const QString& typed = {})
     {
-        QStringList names;
-        for (int row = 0; row < window.tableModel()->rowCount(); ++row)
-            names.append(newName(row));
-        return names;
+        QWidget* target = typed.isNull() ? page->findChild<QAbstractButton*>(q(name)) : page->fieldForOption(q(name));
+        ASSERT_NE(target, nullptr) << name;
+        target->setFocus();
+        if (auto* field = qobject_cast<QLineEdit*>(target)) {
+            field->selectAll();
+            QTest::keyClicks(field, typed);
+        } else {
+            QTest::keyClick(target, Qt::Key_Space);
+        }
     }
+
+    bool isEnabled(const char* optionKey) const { return page->fieldForOption(q(optionKey))->isEnabled(); }
+    QString example(const char* name) const { return page->findChild<QLabel*>(q(name))->text(); }
+
+    ActionTab* page = nullptr;
 };
 
-TEST_F(DateTabsWindowTest, PreviewShowsTheDatesStatReports)
+// Each row presses a button (none for null), then looks at one field.
+TEST_F(DateTabsTest, DateTimeInputsAreEnabledByTheirChoicesAndThePreviewFollows)
 {
-    const QString path = tree.file(u"files/a.txt"_s);
-    test::setModified(path, test::inBerlin(2021, 3, 5, 14, 30));
-    ASSERT_TRUE(addAndWait({ path }));
-    ActionTab* page = showTab(tabs::DateTime);
-
-    ASSERT_TRUE(previewAndWait());
-    EXPECT_EQ(shownNewNames(),
-        QStringList(test::reportedCreation(path).toString(u"ddMMyyyyHHmmss") + u"a.txt"_s));
-    perform(*page, "dateTimeModified");
-    ASSERT_TRUE(previewAndWait());
-    EXPECT_EQ(shownNewNames(), QStringList(u"05032021143000a.txt"_s));
+    showTab(tabs::DateTime);
+    const struct {
+        const char* pressed;
+        const char* field;
+        bool enabled;
+    } rows[] = {
+        { nullptr, Settings::dateTimeCustomDateKey, false },
+        { "dateTimeCustom", Settings::dateTimeCustomDateKey, true },
+        { "dateTimeModified", Settings::dateTimeCustomDateKey, false },
+        { Settings::hasTimeFormatKey, Settings::dateTimeFormatTimePart1Key, false },
+        { nullptr, Settings::dateTimeSeparatorKey, false },
+        { Settings::isDateTimeColonReplaceKey, Settings::dateTimeColonReplaceKey, true },
+        { "dateTimePlace3", Settings::dateTimeAtBeforeTextKey, true },
+        { nullptr, Settings::dateTimeAtAfterTextKey, false },
+    };
+    QSignalSpy changes(&settings(), &Settings::settingsChanged);
+    for (const auto& row : rows) {
+        if (row.pressed)
+            perform(row.pressed);
+        EXPECT_EQ(isEnabled(row.field), row.enabled) << row.field;
+    }
+    EXPECT_EQ(changes.count(), 5) << "every choice asks for a preview";
+    EXPECT_TRUE(settings().isDateTimeAtBeforeText());
 }
 
-TEST_F(DateTabsWindowTest, AMissingAnchorWarnsAndTakesTheFocusToItsField)
+TEST_F(DateTabsTest, DateTimeExampleShowsTheTextAsTheListWill)
+{
+    showTab(tabs::DateTime);
+    settings().chooseDateTimeSource(datetimesource::Custom);
+    settings().setDateTimeCustomDate(test::inBerlin(2021, 3, 5, 14, 30, 9));
+    EXPECT_EQ(example("dateTimeExample"), q("Example: 05032021143009"));
+    auto* month = qobject_cast<QComboBox*>(page->fieldForOption(q(Settings::dateTimeFormatDatePart2Key)));
+    month->setFocus();
+    QTest::keyClick(month, Qt::Key_Down);
+    perform(Settings::dateTimeSeparatorKey, q("_"));
+    perform(Settings::dateTimeFormatTimeSeperator1Key, q(":"));
+    perform(Settings::dateTimeSuffixKey, q(" %d%%"));
+    EXPECT_EQ(example("dateTimeExample"), q("Example: 05Mar2021_14/3009 %"));
+}
+
+TEST_F(DateTabsTest, PrefixSuffixModeIsChosenWithoutAPreview)
+{
+    showTab(tabs::PrefixSuffix);
+    auto* dateGroup = page->findChild<QGroupBox*>(q("prefixSuffixDateGroup"));
+    EXPECT_FALSE(dateGroup->isEnabled());
+    QSignalSpy changes(&settings(), &Settings::settingsChanged);
+    perform("prefixSuffixDate");
+    EXPECT_EQ(changes.count(), 0);
+    EXPECT_TRUE(settings().isPrefixSuffixDate());
+    EXPECT_TRUE(dateGroup->isEnabled());
+    EXPECT_FALSE(page->findChild<QGroupBox*>(q("prefixSuffixTextGroup"))->isEnabled());
+
+    // Literal fields give the same text at any moment.
+    for (auto set : { &Settings::setPrefixSuffixDatePart1, &Settings::setPrefixSuffixDatePart2,
+             &Settings::setPrefixSuffixDatePart3, &Settings::setPrefixSuffixTimePart1,
+             &Settings::setPrefixSuffixTimePart2, &Settings::setPrefixSuffixTimePart3 })
+        (settings().*set)(q("None"));
+    settings().setPrefixSuffixDateSeperator1(q("'day'"));
+    settings().setPrefixSuffixTimeSeperator1(q("'time'"));
+    perform(Settings::prefixSuffixDatePrefixKey, q("a:("));
+    perform(Settings::prefixSuffixDateSuffixKey, q(")"));
+    EXPECT_EQ(example("prefixSuffixExample"), q("Example: a/(day time)"));
+}
+
+TEST_F(DateTabsTest, PathComponentsPlaceIsChosenWithoutAPreview)
+{
+    showTab(tabs::PathComponents);
+    perform(Settings::pathComponentsLevelNoKey, q("3"));
+    EXPECT_EQ(settings().pathComponentsLevelNo(), 3);
+    QSignalSpy changes(&settings(), &Settings::settingsChanged);
+    perform("pathComponentsPlace4");
+    EXPECT_EQ(changes.count(), 0);
+    EXPECT_TRUE(settings().isPathComponentsAtAfterText());
+    EXPECT_TRUE(isEnabled(Settings::pathComponentsAtAfterTextKey));
+    EXPECT_FALSE(isEnabled(Settings::pathComponentsAtBeforeTextKey));
+}
+
+TEST_F(DateTabsTest, AMissingAnchorWarnsAndTakesTheFocusToItsField)
 {
     const struct {
         int tab;
@@ -226,23 +149,15 @@ TEST_F(DateTabsWindowTest, AMissingAnchorWarnsAndTakesTheFocusToItsField)
         const char* titleKey;
     } rows[] = {
         { tabs::DateTime, "dateTimePlace3", Settings::dateTimeAtBeforeTextKey, "DATETIMEATBEFORETEXTINVALIDINPUT" },
-        { tabs::DateTime, "dateTimePlace4", Settings::dateTimeAtAfterTextKey, "DATETIMEATAFTERTEXTINVALIDINPUT" },
-        { tabs::PathComponents, "pathComponentsPlace3", Settings::pathComponentsAtBeforeTextKey,
-            "PATHTEXTATBEFORETEXT" },
-        { tabs::PathComponents, "pathComponentsPlace4", Settings::pathComponentsAtAfterTextKey,
-            "PATHTEXTATAFTERTEXT" },
+        { tabs::PathComponents, "pathComponentsPlace4", Settings::pathComponentsAtAfterTextKey, "PATHTEXTATAFTERTEXT" },
     };
     listFiles({ u"a_b.txt"_s });
     for (const auto& row : rows) {
-        ActionTab* page = showTab(row.tab);
-        perform(*page, row.place);
+        showTab(row.tab);
+        perform(row.place);
         window.tableView()->setFocus();
-        prompter->alerts.clear();
-
         QTest::keyClick(&window, Qt::Key_R, Qt::ControlModifier);
-
-        EXPECT_EQ(prompter->alertTexts(), QStringList(localized(row.titleKey) + u'|' + localized("ENTERSOMETEXT")))
-            << row.place;
+        EXPECT_EQ(prompter->alertTexts().last(), localized(row.titleKey) + u'|' + localized("ENTERSOMETEXT"));
         EXPECT_EQ(QApplication::focusWidget(), page->fieldForOption(q(row.focusKey))) << row.place;
     }
 }

@@ -13,10 +13,9 @@
 namespace tavrin::test {
 
 // Berlin's offset differs between winter and summer, so a date formatted in the wrong zone,
-// or converted twice, shows up whatever zone the machine runs in.
+// or converted twice, shows up whatever zone the machine runs in. Dates in US English.
 inline constexpr char kZone[] = "Europe/Berlin";
 
-// Dates in US English in Berlin, for the formatter and for the expectations alike.
 inline void useFixedZoneAndLocale()
 {
     qputenv("TZ", kZone);
