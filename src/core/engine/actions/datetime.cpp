@@ -9,6 +9,7 @@
 #include <QStringView>
 #include <exception>
 #include <stdexcept>
+#include <string>
 
 namespace tavrin {
 
