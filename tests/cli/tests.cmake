@@ -15,3 +15,7 @@ tavrin_add_test(test_cli_audio
   LIBS PkgConfig::TAGLIB)
 target_compile_definitions(test_cli_audio PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
 add_dependencies(test_cli_audio tavrin-cli)
+
+tavrin_add_test(test_cli_dates SOURCES ${CMAKE_CURRENT_LIST_DIR}/DateCommandTest.cpp)
+target_compile_definitions(test_cli_dates PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
+add_dependencies(test_cli_dates tavrin-cli)

@@ -20,3 +20,4 @@ tavrin_add_test(test_gui_widgets GUI SOURCES
 tavrin_add_test(test_gui_audio_tab GUI
   SOURCES ${CMAKE_CURRENT_LIST_DIR}/AudioTabTest.cpp ${PROJECT_SOURCE_DIR}/tests/core/metadata/AudioFiles.cpp
   LIBS PkgConfig::TAGLIB)
+tavrin_add_test(test_gui_date_tabs GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/DateTabsTest.cpp LIBS PkgConfig::ICU)

@@ -2,8 +2,11 @@
 
 #include "core/engine/actions/alphanumeric.h"
 #include "core/engine/actions/audiotags.h"
+#include "core/engine/actions/datetime.h"
 #include "core/engine/actions/general.h"
 #include "core/engine/actions/insertdelete.h"
+#include "core/engine/actions/pathcomponents.h"
+#include "core/engine/actions/prefixsuffix.h"
 #include "core/engine/actions/replaceremove.h"
 #include "core/profiles/Settings.h"
 #include "core/profiles/Tabs.h"
@@ -51,6 +54,27 @@ BoundAction bindReplaceRemove(const OptionValues& values)
     };
 }
 
+BoundAction bindPrefixSuffix(const OptionValues& values)
+{
+    return [options = PrefixSuffixOptions::from(values)](FileSystemItem& item, QString& error) {
+        return renameByPrefixSuffix(item, options, error);
+    };
+}
+
+BoundAction bindDateTime(const OptionValues& values)
+{
+    return [options = DateTimeOptions::from(values)](FileSystemItem& item, QString& error) {
+        return renameByDateTime(item, options, error);
+    };
+}
+
+BoundAction bindPathComponents(const OptionValues& values)
+{
+    return [options = PathComponentsOptions::from(values)](FileSystemItem& item, QString& error) {
+        return renameByPathComponents(item, options, error);
+    };
+}
+
 BoundAction bindID3Tags(const OptionValues& values)
 {
     return [options = ID3Options::from(values)](FileSystemItem& item, QString& error) {
@@ -63,8 +87,11 @@ const ActionEntry kActions[] = {
     {tabs::AlphaNumeric, "AlphaNumeric", bindSequence, Settings::isAlphaNumericResetSequenceOnEachFolderKey},
     {tabs::InsertDelete, "InsertDelete", bindInsertDelete, nullptr},
     {tabs::ReplaceRemove, "ReplaceRemove", bindReplaceRemove, nullptr},
+    {tabs::PrefixSuffix, "PrefixSuffix", bindPrefixSuffix, nullptr},
+    {tabs::DateTime, "Date & Time", bindDateTime, nullptr},
     {tabs::General, "General", bindGeneral, nullptr},
     {tabs::Audio, "ID3", bindID3Tags, nullptr},
+    {tabs::PathComponents, "PathComponents", bindPathComponents, nullptr},
     {tabs::FromFile, "", nullptr, nullptr},
 };
 

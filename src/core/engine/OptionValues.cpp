@@ -52,4 +52,10 @@ QStringList PropertyOptionValues::list(const char* key) const
     return value(key).toStringList();
 }
 
+QDateTime PropertyOptionValues::date(const char* key) const
+{
+    const QVariant found = value(key);
+    return found.typeId() == QMetaType::QDateTime ? found.toDateTime() : QDateTime();
+}
+
 }  // namespace tavrin

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -19,6 +20,7 @@ public:
     virtual int integer(const char* key) const = 0;
     virtual bool boolean(const char* key) const = 0;
     virtual QStringList list(const char* key) const = 0;
+    virtual QDateTime date(const char* key) const = 0;
 };
 
 // The Qt properties of an object (the settings object) as they are when this is made: a
@@ -32,6 +34,8 @@ public:
     int integer(const char* key) const override;
     bool boolean(const char* key) const override;
     QStringList list(const char* key) const override;
+    // An invalid date for an option that holds none.
+    QDateTime date(const char* key) const override;
 
 private:
     QVariant value(const char* key) const;

@@ -2,32 +2,16 @@
 
 #include "core/log/LogFileName.h"
 #include "core/formats/VersionStamp.h"
+#include "core/platform/FileDates.h"
 #include "core/text/NameParts.h"
 
 #include <QDir>
-#include <QFile>
 #include <algorithm>
-#include <fcntl.h>
 #include <optional>
-#include <sys/stat.h>
 
 namespace tavrin {
 
 namespace {
-
-qint64 millisecondsOf(const struct statx_timestamp& stamp)
-{
-    return stamp.tv_sec * 1000 + stamp.tv_nsec / 1000000;
-}
-
-std::optional<QDateTime> creationDate(const QString& path)
-{
-    struct statx info { };
-    if (::statx(AT_FDCWD, QFile::encodeName(path).constData(), 0, STATX_BTIME | STATX_MTIME, &info) != 0)
-        return std::nullopt;
-    const bool hasBirthTime = (info.stx_mask & STATX_BTIME) != 0;
-    return QDateTime::fromMSecsSinceEpoch(millisecondsOf(hasBirthTime ? info.stx_btime : info.stx_mtime));
-}
 
 std::optional<LogFileRecord> recordFor(const QString& folder, const QString& fileName)
 {
@@ -37,10 +21,10 @@ std::optional<LogFileRecord> recordFor(const QString& folder, const QString& fil
     const QString path = joinPath(folder, fileName);
     if (!isFileVersionMatch(appVersionInPlist(path)))
         return std::nullopt;
-    const std::optional<QDateTime> created = creationDate(path);
-    if (!created)
+    const std::optional<FileDates> dates = readFileDates(path);
+    if (!dates)
         return std::nullopt;
-    return LogFileRecord { fileName, *created, *count, path };
+    return LogFileRecord { fileName, dates->created, *count, path };
 }
 
 }  // namespace

@@ -146,6 +146,17 @@ Settings::ChangeBatch::~ChangeBatch()
     }
 }
 
+Settings::QuietChange::QuietChange(Settings& settings)
+    : m_settings(settings)
+{
+    ++m_settings.m_quietDepth;
+}
+
+Settings::QuietChange::~QuietChange()
+{
+    --m_settings.m_quietDepth;
+}
+
 Settings::Settings(QObject* parent)
     : QObject(parent)
 {
@@ -408,6 +419,8 @@ bool Settings::chooseRadioOption(const QString& key, int index)
 
 void Settings::noteChange()
 {
+    if (m_quietDepth > 0)
+        return;
     if (m_batchDepth > 0)
         m_changedInBatch = true;
     else

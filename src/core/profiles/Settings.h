@@ -255,6 +255,20 @@ public:
         Settings& m_settings;
     };
 
+    // Holds back settingsChanged() for the changes made while alive, so that they do not
+    // re-arm the live preview: a few choices of the window leave the preview as it is until
+    // another option changes. The per-option signals still go.
+    class QuietChange {
+    public:
+        explicit QuietChange(Settings& settings);
+        ~QuietChange();
+        QuietChange(const QuietChange&) = delete;
+        QuietChange& operator=(const QuietChange&) = delete;
+
+    private:
+        Settings& m_settings;
+    };
+
     // Starts with the empty profile's values (resetToDefaults).
     explicit Settings(QObject* parent = nullptr);
 
@@ -323,6 +337,7 @@ private:
 
     int m_batchDepth = 0;
     bool m_changedInBatch = false;
+    int m_quietDepth = 0;
 };
 
 }  // namespace tavrin

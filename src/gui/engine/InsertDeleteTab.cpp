@@ -4,6 +4,7 @@
 #include "core/profiles/Settings.h"
 #include "core/text/LocalizedStrings.h"
 #include "gui/engine/OptionBinder.h"
+#include "gui/engine/PlaceChoices.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
@@ -24,13 +25,6 @@ using Kind = TextFieldFormatter::Kind;
 // The ids of the mode buttons: the indexes Settings::chooseInsertOrDelete takes.
 constexpr int kInsert = 0;
 constexpr int kDelete = 1;
-
-// The insert places fill two columns of the insert group: the places that need no text on
-// the left, the two anchored on a text on the right, where the anchors get the room. Each
-// column holds a radio button and the inputs beside it; an empty one keeps the two apart.
-constexpr int kLeftPlaces = 0;
-constexpr int kColumnGap = 16;
-constexpr int kRightPlaces = 3;
 
 QGridLayout* groupGrid(QGroupBox* group)
 {
@@ -59,6 +53,8 @@ InsertDeleteTab::InsertDeleteTab(Settings& settings, QWidget* parent)
     refreshFromSettings();
 }
 
+InsertDeleteTab::~InsertDeleteTab() = default;
+
 QWidget* InsertDeleteTab::fieldForOption(const QString& optionKey) const
 {
     return m_binder->field(optionKey);
@@ -83,58 +79,28 @@ QLayout* InsertDeleteTab::makeModeRow()
 
 QGroupBox* InsertDeleteTab::makeInsertGroup()
 {
-    using namespace insertoption;
     m_insertGroup = new QGroupBox(localized("INSERTGROUP"));
     m_insertGroup->setObjectName(QStringLiteral("insertGroup"));
     QGridLayout* grid = groupGrid(m_insertGroup);
-    m_places = m_binder->radioGroup(&Settings::chooseInsertPosition,
-        [](const Settings& settings) { return settings.insertDeleteInsertOptionIndex(); });
 
     auto* textLabel = new QLabel(localized("INSERTTEXT"));
     QLineEdit* text = m_binder->textField({ Settings::insertDeleteInsertKey, "INSERTTEXTPLACEHOLDER" });
     textLabel->setBuddy(text);
     OptionBinder::describeRow({ textLabel, text }, localized("INSERTTEXTTIP"));
     grid->addWidget(textLabel, 0, 0);
-    grid->addWidget(text, 0, 1, 1, kRightPlaces + 1);
+    grid->addWidget(text, 0, 1, 1, PlaceChoices::Columns - 1);
 
-    const auto occurrenceWord = [] { return new QLabel(localized("OCCURRENCE")); };
-    const auto occurrence
-        = [this](const char* key) { return m_binder->numberField(key, Kind::PositiveNumber); };
-    const auto anchor = [this](const char* key) { return m_binder->textField({ key, "ANCHORPLACEHOLDER" }); };
-
-    addPlace(grid, AtBeginning, { 1, kLeftPlaces }, { "INSERTATBEGINNING", "INSERTATBEGINNINGTIP" }, {});
-    addPlace(grid, AtEnd, { 2, kLeftPlaces }, { "INSERTATEND", "INSERTATENDTIP" }, {});
-    addPlace(grid, AtPosition, { 3, kLeftPlaces }, { "INSERTATPOSITION", "INSERTATPOSITIONTIP" },
-        { m_binder->numberField(Settings::insertDeleteAtCharacterPositionsKey, Kind::PositiveNumber),
-            m_binder->directionChoice(Settings::insertDeleteInsertAtPostionDirectionKey,
-                insertdirection::FromStart, insertdirection::FromEnd) });
-    addPlace(grid, BeforeText, { 1, kRightPlaces }, { "INSERTBEFORE", "INSERTBEFORETIP" },
-        { anchor(Settings::insertDeleteInsertAtBeforeTextKey), occurrenceWord(),
-            occurrence(Settings::insertDeleteInsertAtBeforeOccurrenceKey) });
-    addPlace(grid, AfterText, { 2, kRightPlaces }, { "INSERTAFTER", "INSERTAFTERTIP" },
-        { anchor(Settings::insertDeleteInsertAtAfterTextKey), occurrenceWord(),
-            occurrence(Settings::insertDeleteInsertAtAfterOccurrenceKey) });
-
-    grid->setColumnMinimumWidth(kRightPlaces - 1, kColumnGap);
-    grid->setColumnStretch(kRightPlaces + 1, 1);
-    grid->setRowStretch(4, 1);
+    m_places = std::make_unique<PlaceChoices>(*m_binder,
+        PlaceChoices::Group { { Settings::insertDeleteInsertOptionIndexKey, Settings::insertDeleteAtCharacterPositionsKey,
+                                  Settings::insertDeleteInsertAtPostionDirectionKey,
+                                  Settings::insertDeleteInsertAtBeforeTextKey,
+                                  Settings::insertDeleteInsertAtBeforeOccurrenceKey,
+                                  Settings::insertDeleteInsertAtAfterTextKey,
+                                  Settings::insertDeleteInsertAtAfterOccurrenceKey },
+            &Settings::chooseInsertPosition, OptionBinder::Preview::Follows, QStringLiteral("insertPlace") },
+        grid, 1);
+    grid->setRowStretch(1 + PlaceChoices::Rows, 1);
     return m_insertGroup;
-}
-
-void InsertDeleteTab::addPlace(
-    QGridLayout* grid, int place, GridCell cell, const ChoiceText& text, const QList<QWidget*>& inputs)
-{
-    QRadioButton* button
-        = m_binder->radioButton(m_places, place, QStringLiteral("insertPlace%1").arg(place), text.labelKey);
-    OptionBinder::describeRow(QList<QWidget*> { button } + inputs, localized(text.toolTipKey));
-    grid->addWidget(button, cell.row, cell.column);
-    // An anchor text takes the room the row has; numbers are as wide as their digits anyway.
-    auto* inputRow = new QHBoxLayout;
-    inputRow->setSpacing(6);
-    for (QWidget* input : inputs)
-        inputRow->addWidget(input, qobject_cast<QLineEdit*>(input) ? 1 : 0);
-    grid->addLayout(inputRow, cell.row, cell.column + 1);
-    m_inputsOfPlace.insert(place, inputs);
 }
 
 QGroupBox* InsertDeleteTab::makeDeleteGroup()
@@ -178,11 +144,7 @@ void InsertDeleteTab::enableChosenInputs()
     const bool insert = m_settings.isInsertDeleteInsert();
     m_insertGroup->setEnabled(insert);
     m_deleteGroup->setEnabled(!insert);
-    const int place = m_settings.insertDeleteInsertOptionIndex();
-    for (auto it = m_inputsOfPlace.cbegin(); it != m_inputsOfPlace.cend(); ++it) {
-        for (QWidget* input : it.value())
-            input->setEnabled(it.key() == place);
-    }
+    m_places->enableChosenInputs(m_settings);
 }
 
 } // namespace tavrin

@@ -2,20 +2,15 @@
 
 #include "gui/engine/ActionTab.h"
 
-#include <QHash>
-#include <QList>
+#include <memory>
 
-class QButtonGroup;
-class QGridLayout;
 class QGroupBox;
 class QLayout;
 
 namespace tavrin {
 
-struct ChoiceText;
-struct KeyedInput;
-
 class OptionBinder;
+class PlaceChoices;
 class Settings;
 
 // The insert/delete tab: either a text put into each name at a chosen place, or a run of
@@ -26,6 +21,7 @@ class InsertDeleteTab : public ActionTab {
 
 public:
     explicit InsertDeleteTab(Settings& settings, QWidget* parent = nullptr);
+    ~InsertDeleteTab() override;
 
     QWidget* fieldForOption(const QString& optionKey) const override;
 
@@ -33,14 +29,6 @@ private:
     QLayout* makeModeRow();
     QGroupBox* makeInsertGroup();
     QGroupBox* makeDeleteGroup();
-    // Where a place goes in the grid.
-    struct GridCell {
-        int row;
-        int column;
-    };
-
-    void addPlace(
-        QGridLayout* grid, int place, GridCell cell, const ChoiceText& text, const QList<QWidget*>& inputs);
     void refreshFromSettings();
     void enableChosenInputs();
 
@@ -48,8 +36,7 @@ private:
     OptionBinder* m_binder;
     QGroupBox* m_insertGroup = nullptr;
     QGroupBox* m_deleteGroup = nullptr;
-    QButtonGroup* m_places = nullptr;
-    QHash<int, QList<QWidget*>> m_inputsOfPlace;
+    std::unique_ptr<PlaceChoices> m_places;
 };
 
 } // namespace tavrin

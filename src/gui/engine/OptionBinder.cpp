@@ -6,11 +6,13 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <functional>
+#include <optional>
 
 namespace tavrin {
 
@@ -105,13 +107,30 @@ QComboBox* OptionBinder::directionChoice(
     return choice(optionKey, { { "FROMTHESTART", fromStart }, { "FROMTHEEND", fromEnd } });
 }
 
-QButtonGroup* OptionBinder::radioGroup(bool (Settings::*choose)(int), ChosenIndex chosen)
+QDateTimeEdit* OptionBinder::dateTimeField(const char* optionKey)
+{
+    auto* edit = new QDateTimeEdit;
+    edit->setObjectName(QString::fromLatin1(optionKey));
+    edit->setCalendarPopup(true);
+    edit->setDisplayFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    connect(edit, &QDateTimeEdit::dateTimeChanged, this,
+        [this, optionKey](const QDateTime& date) { m_settings.setProperty(optionKey, date); });
+    m_fields.insert(QString::fromLatin1(optionKey), edit);
+    return edit;
+}
+
+QButtonGroup* OptionBinder::radioGroup(bool (Settings::*choose)(int), ChosenIndex chosen, Preview preview)
 {
     auto* group = new QButtonGroup(this);
     // Wrapped in mem_fn: GCC's AddressSanitizer misreads a member pointer captured as it is
     // and stops the sanitized tests with a false stack-buffer-underflow.
     connect(group, &QButtonGroup::idClicked, this,
-        [this, chooseIndex = std::mem_fn(choose)](int id) { chooseIndex(m_settings, id); });
+        [this, preview, chooseIndex = std::mem_fn(choose)](int id) {
+            std::optional<Settings::QuietChange> quiet;
+            if (preview == Preview::Waits)
+                quiet.emplace(m_settings);
+            chooseIndex(m_settings, id);
+        });
     m_groups.append({ group, std::move(chosen) });
     return group;
 }
@@ -171,6 +190,8 @@ void OptionBinder::refreshField(const QString& optionKey, QWidget* field)
         chooser->setCurrentIndex(chooser->findData(value));
     else if (auto* box = qobject_cast<QCheckBox*>(field))
         box->setChecked(value.toBool());
+    else if (auto* edit = qobject_cast<QDateTimeEdit*>(field))
+        edit->setDateTime(value.toDateTime());
     else if (auto* line = qobject_cast<QLineEdit*>(field); line && line->text() != value.toString())
         line->setText(value.toString());
 }

@@ -12,6 +12,7 @@
 class QButtonGroup;
 class QCheckBox;
 class QComboBox;
+class QDateTimeEdit;
 class QLineEdit;
 class QRadioButton;
 
@@ -66,9 +67,17 @@ public:
     // "counting from the start" or "from the end", standing for the two values given.
     QComboBox* directionChoice(const char* optionKey, const QVariant& fromStart, const QVariant& fromEnd);
 
+    // The date and time of a date option, to the second.
+    QDateTimeEdit* dateTimeField(const char* optionKey);
+
+    // Whether choosing a button of a radio group re-arms the live preview. Most choices do;
+    // a few leave the preview as it is until another option changes.
+    enum class Preview { Follows, Waits };
+
     // A radio group whose buttons call `choose` with their id, which sets the group's
     // index and its mirror booleans together.
-    QButtonGroup* radioGroup(bool (Settings::*choose)(int), ChosenIndex chosen);
+    QButtonGroup* radioGroup(
+        bool (Settings::*choose)(int), ChosenIndex chosen, Preview preview = Preview::Follows);
     QRadioButton* radioButton(QButtonGroup* group, int id, const QString& objectName, const char* labelKey);
 
     // Gives every widget of a row the row's tooltip, and each input the name a screen

@@ -8,8 +8,11 @@
 #include "gui/engine/ActionTab.h"
 #include "gui/engine/ActionTabs.h"
 #include "gui/engine/AudioTab.h"
+#include "gui/engine/DateTimeTab.h"
 #include "gui/engine/GeneralTab.h"
 #include "gui/engine/InsertDeleteTab.h"
+#include "gui/engine/PathComponentsTab.h"
+#include "gui/engine/PrefixSuffixTab.h"
 #include "gui/engine/ReplaceRemoveTab.h"
 #include "gui/engine/SequenceTab.h"
 #include "gui/ui/AttachedWindow.h"
@@ -81,8 +84,11 @@ RenamePanel::RenamePanel(
         [sequenceTab, rename] { sequenceTab->setListedCount(rename->list().shownCount()); });
     m_tabs->addActionTab(new InsertDeleteTab(settings), tabs::InsertDelete, localized("INSERTDELETETAB"));
     m_tabs->addActionTab(new ReplaceRemoveTab(settings), tabs::ReplaceRemove, localized("REPLACEREMOVETAB"));
+    m_tabs->addActionTab(new PrefixSuffixTab(settings), tabs::PrefixSuffix, localized("PREFIXSUFFIXTAB"));
+    m_tabs->addActionTab(new DateTimeTab(settings), tabs::DateTime, localized("DATETIMETAB"));
     m_tabs->addActionTab(new GeneralTab(settings), tabs::General, localized("GENERALTAB"));
     m_tabs->addActionTab(new AudioTab(settings), tabs::Audio, localized("AUDIOTAB"));
+    m_tabs->addActionTab(new PathComponentsTab(settings), tabs::PathComponents, localized("PATHCOMPONENTSTAB"));
     m_tabs->showSelectedTab();
     createActions();
 

@@ -29,6 +29,8 @@ const QSet<QString> kNotKeys = {
     QStringLiteral("ARTIST"),
     QStringLiteral("COMPOSER"),
     QStringLiteral("ID3"),
+    // Unicode date patterns the date fields offer.
+    QStringLiteral("MMM"), QStringLiteral("MMMM"), QStringLiteral("EEE"), QStringLiteral("EEEE"),
 };
 
 // Texts that read the same in a language as in English.

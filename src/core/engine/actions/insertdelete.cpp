@@ -76,16 +76,25 @@ QString deletedRun(const QString& name, const DeleteOptions& options)
 
 InsertOptions InsertOptions::from(const OptionValues& values)
 {
-    InsertOptions options;
+    InsertOptions options = placement(
+        values, {Settings::insertDeleteInsertOptionIndexKey, Settings::insertDeleteAtCharacterPositionsKey,
+                 Settings::insertDeleteInsertAtPostionDirectionKey, Settings::insertDeleteInsertAtBeforeTextKey,
+                 Settings::insertDeleteInsertAtBeforeOccurrenceKey, Settings::insertDeleteInsertAtAfterTextKey,
+                 Settings::insertDeleteInsertAtAfterOccurrenceKey});
     options.text = values.text(Settings::insertDeleteInsertKey);
-    options.place = static_cast<insertoption::InsertPlace>(values.integer(Settings::insertDeleteInsertOptionIndexKey));
-    options.position = values.integer(Settings::insertDeleteAtCharacterPositionsKey);
-    const int direction = values.integer(Settings::insertDeleteInsertAtPostionDirectionKey);
-    options.direction = static_cast<insertdirection::InsertDirection>(direction);
-    options.beforeText = values.text(Settings::insertDeleteInsertAtBeforeTextKey);
-    options.beforeOccurrence = values.integer(Settings::insertDeleteInsertAtBeforeOccurrenceKey);
-    options.afterText = values.text(Settings::insertDeleteInsertAtAfterTextKey);
-    options.afterOccurrence = values.integer(Settings::insertDeleteInsertAtAfterOccurrenceKey);
+    return options;
+}
+
+InsertOptions InsertOptions::placement(const OptionValues& values, const PlacementKeys& keys)
+{
+    InsertOptions options;
+    options.place = static_cast<insertoption::InsertPlace>(values.integer(keys.place));
+    options.position = values.integer(keys.position);
+    options.direction = static_cast<insertdirection::InsertDirection>(values.integer(keys.direction));
+    options.beforeText = values.text(keys.beforeText);
+    options.beforeOccurrence = values.integer(keys.beforeOccurrence);
+    options.afterText = values.text(keys.afterText);
+    options.afterOccurrence = values.integer(keys.afterOccurrence);
     return options;
 }
 

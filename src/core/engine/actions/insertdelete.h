@@ -27,6 +27,18 @@ enum InsertDirection : int {
 };
 }  // namespace insertdirection
 
+// The option keys of the seven placement options. The date/time and path-components tabs
+// place their texts as the insert tab does, each from options of its own.
+struct PlacementKeys {
+    const char* place;
+    const char* position;
+    const char* direction;
+    const char* beforeText;
+    const char* beforeOccurrence;
+    const char* afterText;
+    const char* afterOccurrence;
+};
+
 // The insert half of the insert/delete tab. Texts are kept as typed.
 struct InsertOptions {
     QString text{};
@@ -39,6 +51,8 @@ struct InsertOptions {
     int afterOccurrence = 1;
 
     static InsertOptions from(const OptionValues& values);
+    // The placement alone, read by the given keys; the text is left empty.
+    static InsertOptions placement(const OptionValues& values, const PlacementKeys& keys);
 };
 
 // The delete half of the insert/delete tab.

@@ -5,3 +5,6 @@ tavrin_add_test(test_alphanumeric_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/Alpha
 tavrin_add_test(test_audiotags_action
   SOURCES ${CMAKE_CURRENT_LIST_DIR}/AudioTagsActionTest.cpp ${PROJECT_SOURCE_DIR}/tests/core/metadata/AudioFiles.cpp
   LIBS PkgConfig::TAGLIB)
+tavrin_add_test(test_datetime_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/DateTimeActionTest.cpp LIBS PkgConfig::ICU)
+tavrin_add_test(test_prefixsuffix_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/PrefixSuffixActionTest.cpp LIBS PkgConfig::ICU)
+tavrin_add_test(test_pathcomponents_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/PathComponentsActionTest.cpp)
