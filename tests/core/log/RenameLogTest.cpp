@@ -53,7 +53,7 @@ TEST(GetNewLogFileName, DayMonthYearThenTwentyFourHourTime)
 
 // Confirmed entries and entries nobody confirmed or dropped (they may stand for a rename that
 // happened) are logged; a dropped one (a rename that failed) is not, nor counted.
-TEST(RenameLog, ABatchLeavesOneLogNamedWithTheCountOfItsRenames)
+TEST(RenameLog, ABatchLeavesOneLogNamedWithTheCountOfItsEntries)
 {
     test::TempTree tree;
     const QString folder = tree.folder(QStringLiteral("Logs"));
@@ -67,9 +67,10 @@ TEST(RenameLog, ABatchLeavesOneLogNamedWithTheCountOfItsRenames)
     log.addLogEntry(QStringLiteral("/p/unresolved"), QStringLiteral("/p/U"));
     EXPECT_EQ(log.renamedCount(), 12);
 
+    // Finishing counts the unresolved entry with the others.
     const QString path = log.finish();
-    EXPECT_EQ(path, folder + QStringLiteral("/Log 15-11-2026 09-05-07-12.xml"));
-    EXPECT_EQ(filesIn(folder), QStringList {QStringLiteral("Log 15-11-2026 09-05-07-12.xml")});
+    EXPECT_EQ(path, folder + QStringLiteral("/Log 15-11-2026 09-05-07-13.xml"));
+    EXPECT_EQ(filesIn(folder), QStringList {QStringLiteral("Log 15-11-2026 09-05-07-13.xml")});
     const auto contents = readLogEntries(path);
     ASSERT_TRUE(contents.has_value());
     ASSERT_EQ(contents->entries.size(), 13);
