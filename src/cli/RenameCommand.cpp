@@ -225,8 +225,7 @@ int runRename(Mode mode, const QStringList& arguments, QTextStream& out, QTextSt
         return reportUsageError(commandName(mode), error, err);
     const int tab = settings.selectedTab();
     if (const auto failure = validateAndNormalise(settings, tab)) {
-        err << localized(failure->titleKey.toLatin1().constData()) << ": "
-            << localized(failure->messageKey.toLatin1().constData()) << '\n';
+        err << failure->title() << ": " << failure->message() << '\n';
         return kExitBadUsage;
     }
 

@@ -68,7 +68,7 @@ bool RenameController::quickPreview(int limit)
     if (m_list.isExecuting() || m_list.shownCount() == 0)
         return false;
     if (const std::optional<ValidationFailure> failure = normaliseOptions()) {
-        m_list.status().showMessage(LocalizedStrings::text(failure->messageKey));
+        m_list.status().showMessage(failure->message());
         return false;
     }
     const Options options = std::make_shared<const PropertyOptionValues>(m_session.settings());

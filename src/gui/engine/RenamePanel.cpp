@@ -155,7 +155,7 @@ void RenamePanel::actionPreview()
     m_attached->hide();
     if (const std::optional<ValidationFailure> failure = m_rename->preview()) {
         m_prompter->warn(window(),
-            { LocalizedStrings::text(failure->titleKey), LocalizedStrings::text(failure->messageKey) });
+            { failure->title(), failure->message() });
         focusField(failure->focusOption);
     }
 }

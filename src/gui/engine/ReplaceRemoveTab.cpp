@@ -1,5 +1,6 @@
 #include "gui/engine/ReplaceRemoveTab.h"
 
+#include "core/engine/actions/patternreplace.h"
 #include "core/engine/actions/replaceremove.h"
 #include "core/profiles/Settings.h"
 #include "core/text/LocalizedStrings.h"
@@ -109,9 +110,21 @@ QGroupBox* ReplaceRemoveTab::makeTextGroup()
     QCheckBox* matchCase = m_binder->checkBox({ Settings::isReplaceRemoveCaseSensitiveKey, "REPLACECASE" });
     matchCase->setToolTip(localized("REPLACECASETIP"));
     grid->addWidget(matchCase, 2, 1);
+    QCheckBox* pattern
+        = m_binder->checkBox({ Settings::isReplaceRemoveRegularExpressionKey, "REPLACEREGULAREXPRESSION" });
+    pattern->setToolTip(localized("REPLACEREGULAREXPRESSIONTIP"));
+    grid->addWidget(pattern, 3, 1);
+
+    // A pattern's problem shows as it is typed, before any preview.
+    m_patternProblem = new QLabel;
+    m_patternProblem->setObjectName(QStringLiteral("patternProblemLabel"));
+    m_patternProblem->setWordWrap(true);
+    m_patternProblem->setForegroundRole(QPalette::PlaceholderText);
+    grid->addWidget(m_patternProblem, 4, 1);
+    connect(find, &QLineEdit::textChanged, this, &ReplaceRemoveTab::showPatternProblem);
 
     grid->setColumnStretch(1, 1);
-    grid->setRowStretch(3, 1);
+    grid->setRowStretch(5, 1);
     return group;
 }
 
@@ -160,6 +173,17 @@ void ReplaceRemoveTab::refreshFromSettings()
 {
     m_binder->refresh();
     enableChosenInputs();
+    showPatternProblem();
+}
+
+void ReplaceRemoveTab::showPatternProblem()
+{
+    const QString typed = static_cast<QLineEdit*>(m_binder->field(Settings::replaceRemoveThisKey))->text();
+    const std::optional<PatternProblem> problem
+        = m_settings.isReplaceRemoveRegularExpression() ? patternProblem(typed) : std::nullopt;
+    m_patternProblem->setText(
+        problem ? localized("PATTERNPROBLEM").arg(problem->description).arg(problem->column) : QString());
+    m_patternProblem->setVisible(problem.has_value());
 }
 
 void ReplaceRemoveTab::enableChosenInputs()

@@ -6,6 +6,7 @@ target_sources(tavrin_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/general.cpp
   ${CMAKE_CURRENT_LIST_DIR}/insertdelete.cpp
   ${CMAKE_CURRENT_LIST_DIR}/pathcomponents.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/patternreplace.cpp
   ${CMAKE_CURRENT_LIST_DIR}/prefixsuffix.cpp
   ${CMAKE_CURRENT_LIST_DIR}/replaceremove.cpp
   ${CMAKE_CURRENT_LIST_DIR}/workingname.cpp)
