@@ -3,6 +3,7 @@
 #include "cli/ListJson.h"
 #include "cli/LoadedList.h"
 #include "cli/RenameOptions.h"
+#include "cli/Suggestion.h"
 #include "cli/TerminalProgress.h"
 #include "cli/Usage.h"
 #include "core/engine/Pipeline.h"
@@ -64,6 +65,10 @@ bool configureSettings(Settings& settings, const CommonOptions& common, const Re
     settings.setIsIncludeSubFolders(common.scan.includeSubFolders);
     settings.setSelectedTab(extra.tab.value_or(settings.selectedTab()));
     for (const auto& [key, value] : extra.assignments) {
+        if (!Settings::hasOption(key)) {
+            error = localized("CLIUNKNOWNOPTIONKEY").arg(key) + didYouMean(key, Settings::optionKeys());
+            return false;
+        }
         if (!Settings::isRadioIndexKey(key)) {
             if (!settings.setOptionFromString(key, value, &error))
                 return false;
@@ -202,7 +207,7 @@ bool parseArguments(Mode mode, const QStringList& arguments, CommonOptions& comm
 {
     if (!parseCommonOptions(arguments, common, error, &extra))
         return false;
-    if (mode == Mode::Apply && !common.help && !extra.yes && ::isatty(STDIN_FILENO) != 1) {
+    if (mode == Mode::Apply && !common.help && !extra.yes && !extra.dryRun && ::isatty(STDIN_FILENO) != 1) {
         error = localized("CLIAPPLYNEEDSYES");
         return false;
     }
@@ -216,6 +221,9 @@ int runRename(Mode mode, const QStringList& arguments, QTextStream& out, QTextSt
     QString error;
     if (!parseArguments(mode, arguments, common, extra, error))
         return reportUsageError(commandName(mode), error, err);
+    // "apply --dry-run" only shows what apply would do.
+    if (extra.dryRun)
+        mode = Mode::Preview;
     if (common.help) {
         out << localized(mode == Mode::Preview ? "CLIPREVIEWUSAGE" : "CLIAPPLYUSAGE") << '\n';
         return kExitDone;

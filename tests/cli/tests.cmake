@@ -19,3 +19,10 @@ add_dependencies(test_cli_audio tavrin-cli)
 tavrin_add_test(test_cli_dates SOURCES ${CMAKE_CURRENT_LIST_DIR}/DateCommandTest.cpp)
 target_compile_definitions(test_cli_dates PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
 add_dependencies(test_cli_dates tavrin-cli)
+
+tavrin_add_test(test_cli_command_line SOURCES ${CMAKE_CURRENT_LIST_DIR}/CommandLineTest.cpp LIBS tavrin_cli_lib)
+target_compile_definitions(test_cli_command_line PRIVATE
+  TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>"
+  TAVRIN_MAN_DIR="${PROJECT_BINARY_DIR}/man"
+  TAVRIN_COMPLETION_DIR="${PROJECT_SOURCE_DIR}/resources/completion")
+add_dependencies(test_cli_command_line tavrin-cli tavrin-manuals)
