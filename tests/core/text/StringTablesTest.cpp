@@ -29,6 +29,8 @@ const QSet<QString> kNotKeys = {
     QStringLiteral("ARTIST"),
     QStringLiteral("COMPOSER"),
     QStringLiteral("ID3"),
+    // The groups photo metadata tokens are named after.
+    QStringLiteral("EXIF"), QStringLiteral("FILEINFO"), QStringLiteral("IPTC"), QStringLiteral("SEQUENCES"),
 };
 
 // Texts that read the same in a language as in English.

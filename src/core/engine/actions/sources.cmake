@@ -1,6 +1,7 @@
 target_sources(tavrin_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/alphanumeric.cpp
   ${CMAKE_CURRENT_LIST_DIR}/audiotags.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/photo.cpp
   ${CMAKE_CURRENT_LIST_DIR}/general.cpp
   ${CMAKE_CURRENT_LIST_DIR}/insertdelete.cpp
   ${CMAKE_CURRENT_LIST_DIR}/replaceremove.cpp

@@ -5,3 +5,6 @@ tavrin_add_test(test_alphanumeric_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/Alpha
 tavrin_add_test(test_audiotags_action
   SOURCES ${CMAKE_CURRENT_LIST_DIR}/AudioTagsActionTest.cpp ${PROJECT_SOURCE_DIR}/tests/core/metadata/AudioFiles.cpp
   LIBS PkgConfig::TAGLIB)
+tavrin_add_test(test_photo_action
+  SOURCES ${CMAKE_CURRENT_LIST_DIR}/PhotoActionTest.cpp ${PROJECT_SOURCE_DIR}/tests/core/metadata/PhotoFiles.cpp
+  LIBS PkgConfig::EXIV2 Qt6::Gui)
