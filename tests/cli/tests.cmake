@@ -15,3 +15,9 @@ tavrin_add_test(test_cli_audio
   LIBS PkgConfig::TAGLIB)
 target_compile_definitions(test_cli_audio PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
 add_dependencies(test_cli_audio tavrin-cli)
+
+tavrin_add_test(test_cli_photo
+  SOURCES ${CMAKE_CURRENT_LIST_DIR}/PhotoCommandTest.cpp ${PROJECT_SOURCE_DIR}/tests/core/metadata/PhotoFiles.cpp
+  LIBS PkgConfig::EXIV2 Qt6::Gui)
+target_compile_definitions(test_cli_photo PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
+add_dependencies(test_cli_photo tavrin-cli)
