@@ -8,6 +8,7 @@
 #include "gui/engine/ActionTab.h"
 #include "gui/engine/ActionTabs.h"
 #include "gui/engine/AudioTab.h"
+#include "gui/engine/PhotoTab.h"
 #include "gui/engine/GeneralTab.h"
 #include "gui/engine/InsertDeleteTab.h"
 #include "gui/engine/ReplaceRemoveTab.h"
@@ -83,6 +84,7 @@ RenamePanel::RenamePanel(
     m_tabs->addActionTab(new ReplaceRemoveTab(settings), tabs::ReplaceRemove, localized("REPLACEREMOVETAB"));
     m_tabs->addActionTab(new GeneralTab(settings), tabs::General, localized("GENERALTAB"));
     m_tabs->addActionTab(new AudioTab(settings), tabs::Audio, localized("AUDIOTAB"));
+    m_tabs->addActionTab(new PhotoTab(settings), tabs::Photo, localized("PHOTOTAB"));
     m_tabs->showSelectedTab();
     createActions();
 

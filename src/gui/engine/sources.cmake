@@ -2,6 +2,7 @@ target_sources(tavrin_gui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ActionTab.h
   ${CMAKE_CURRENT_LIST_DIR}/ActionTabs.cpp
   ${CMAKE_CURRENT_LIST_DIR}/AudioTab.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/PhotoTab.cpp
   ${CMAKE_CURRENT_LIST_DIR}/GeneralTab.cpp
   ${CMAKE_CURRENT_LIST_DIR}/InsertDeleteTab.cpp
   ${CMAKE_CURRENT_LIST_DIR}/LivePreviewSheet.cpp
