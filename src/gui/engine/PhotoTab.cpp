@@ -224,6 +224,7 @@ void PhotoTab::refreshFromSettings()
 {
     m_binder->refresh();
     m_extensionsView->setText(m_settings.photoExtensions().join(QLatin1String("; ")));
+    m_extensionsView->setCursorPosition(0);
     m_binder->field(Settings::photoRenamingSeperatorKey)->setEnabled(m_settings.isPhotoRenamingSeperator());
     m_binder->field(Settings::photoRenamingColonReplaceKey)->setEnabled(m_settings.isPhotoRenamingColonReplace());
 }
