@@ -114,9 +114,10 @@ QGroupBox* PhotoTab::makeMaskGroup()
     auto* grid = new QGridLayout(group);
     int index = 0;
     for (const QuickInsert& insert : kQuickInserts) {
-        QPushButton* add = button(insert.objectName, insert.labelKey, "PHOTOINSERTTIP");
-        add->setToolTip(localized("PHOTOINSERTTIP").arg(QLatin1String(insert.token)));
         const QString token = QLatin1String(insert.token);
+        auto* add = new QPushButton(localized(insert.labelKey));
+        add->setObjectName(QLatin1String(insert.objectName));
+        add->setToolTip(localized("PHOTOINSERTTIP").arg(token));
         connect(add, &QPushButton::clicked, this, [this, token] { photoRenamingMaskInsert(token); });
         grid->addWidget(add, index / kInsertColumns, index % kInsertColumns);
         ++index;

@@ -40,25 +40,17 @@ TEST(MetaDataCatalogue, HoldsTheFieldsInTheirCategoriesWithTheIrregularitiesKept
     EXPECT_EQ(catalogue.metaDataList().last().fields.last().tagCode(), q("<IPTC_Image_Subject_Code>"));
 }
 
-TEST(MetaDataCatalogue, ASecondInitialisationKeepsTheValues)
-{
-    MetaDataCatalogue catalogue = initialized();
-    const QVariantMap iptc { { q("Headline"), q("Storm") } };
-    catalogue.resetMetaDataList(&iptc, nullptr, {}, QString());
-    catalogue.InitializeMetaDataList();
-    EXPECT_EQ(catalogue.getTagValue(q("<IPTC_Origin_Headline>")), q("Storm"));
-    EXPECT_EQ(catalogue.getTagValue(q("<IPTC_Lens>")), QString());
-    EXPECT_EQ(catalogue.getTagValue(q("<iptc_origin_headline>")), QString()) << "tokens match case exactly";
-}
-
-TEST(MetaDataCatalogue, ReplacesTheIptcTokensOfAMaskOnly)
+TEST(MetaDataCatalogue, ReplacesTheIptcTokensOfAMaskAndKeepsTheValues)
 {
     MetaDataCatalogue catalogue = initialized();
     const QVariantMap iptc { { q("City"), q("Paris") }, { q("TimeCreated"), q("10:20:00") } };
     QString mask = q("<IPTC_Origin_City>_<IPTC_Origin_Time_Created>_<EXIF_Date>_<IPTC_Keywords>");
     catalogue.resetMetaDataList(&iptc, &mask, {}, q("-"));
     EXPECT_EQ(mask, q("Paris_10-20-00_<EXIF_Date>_"));
-    EXPECT_EQ(catalogue.getTagValue(q("<IPTC_Origin_Time_Created>")), q("10:20:00")) << "the value keeps its colons";
+    catalogue.InitializeMetaDataList();
+    EXPECT_EQ(catalogue.getTagValue(q("<IPTC_Origin_Time_Created>")), q("10:20:00")) << "kept, colons and all";
+    EXPECT_EQ(catalogue.getTagValue(q("<IPTC_Lens>")), QString());
+    EXPECT_EQ(catalogue.getTagValue(q("<iptc_origin_city>")), QString()) << "tokens match case exactly";
     catalogue.resetMetaDataList(nullptr, nullptr, {}, QString());
     EXPECT_EQ(catalogue.getTagValue(q("<IPTC_Origin_City>")), QString()) << "no dictionary clears the values";
 }

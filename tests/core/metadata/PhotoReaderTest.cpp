@@ -53,17 +53,11 @@ TEST(ImageMetadataReader, AbsentDictionariesStayAbsent)
     test::TempTree tree;
     const ImageProperties bare = ImageMetadataReader::read(test::writeTaggedPhoto(tree, q("bare.jpg"), {}));
     EXPECT_FALSE(bare.exif || bare.tiff || bare.iptc);
-    EXPECT_EQ(bare.pixelWidth, q("8"));
-
-    const PhotoTags exifOnly { .exif = { { q("Exif.Image.Model"), q("X100") },
-                                   { q("Exif.Photo.PixelXDimension"), q("4000") } } };
+    EXPECT_EQ(bare.pixelWidth + bare.pixelHeight, q("86"));
+    const PhotoTags model { .exif = { { q("Exif.Image.Model"), q("X100") } } };
     const ImageProperties tiff
-        = ImageMetadataReader::read(test::writeTaggedPhoto(tree, q("a.tif"), exifOnly, test::PhotoFormat::Tiff));
-    ASSERT_TRUE(tiff.tiff.has_value());
-    EXPECT_EQ(tiff.tiff->value(q("Model")), q("X100"));
-    EXPECT_FALSE(tiff.tiff->contains(q("Make")));
-    EXPECT_EQ(tiff.exif->value(q("PixelXDimension")), q("4000"));
-    EXPECT_EQ(tiff.pixelWidth + tiff.pixelHeight, q("86"));
+        = ImageMetadataReader::read(test::writeTaggedPhoto(tree, q("a.tif"), model, test::PhotoFormat::Tiff));
+    EXPECT_EQ(tiff.tiff.value_or(QVariantMap()), QVariantMap({ { q("Model"), q("X100") } }));
     EXPECT_FALSE(tiff.iptc.has_value());
 }
 

@@ -123,6 +123,16 @@ PhotoValues readImage(const QString& path, const PhotoOptions& options, MetaData
     return exifValues(image, options);
 }
 
+// The running number padded in front with the start of the mask to the mask's length:
+// "0000" and 7 give "0007"; a number as long as the mask or longer stays as it is.
+QString paddedNumber(int number, const QString& paddingMask)
+{
+    const QString digits = QString::number(number);
+    if (paddingMask.size() <= digits.size())
+        return digits;
+    return paddingMask.left(paddingMask.size() - digits.size()) + digits;
+}
+
 struct TokenValue {
     const char* token;
     QString value;
@@ -211,14 +221,6 @@ QString PhotoOptions::datePattern() const
 QString PhotoOptions::timePattern() const
 {
     return pattern(timePart1, timeSeparator1, timePart2, timeSeparator2, timePart3, kDefaultTimePattern);
-}
-
-QString paddedNumber(int number, const QString& paddingMask)
-{
-    const QString digits = QString::number(number);
-    if (paddingMask.size() <= digits.size())
-        return digits;
-    return paddingMask.left(paddingMask.size() - digits.size()) + digits;
 }
 
 bool renameByPhotoEXIFTags(FileSystemItem& item, const PhotoOptions& options, MetaDataCatalogue& catalogue,

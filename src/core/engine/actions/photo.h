@@ -57,8 +57,4 @@ struct PhotoOptions {
 bool renameByPhotoEXIFTags(FileSystemItem& item, const PhotoOptions& options, MetaDataCatalogue& catalogue,
                            int& numberSequence, QString& error);
 
-// The running number as text, padded in front with the start of the mask to the mask's
-// length: "0000" and 7 give "0007"; a number as long as the mask or longer stays as it is.
-QString paddedNumber(int number, const QString& paddingMask);
-
 }  // namespace tavrin

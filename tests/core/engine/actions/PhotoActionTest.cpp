@@ -183,40 +183,20 @@ TEST_F(PhotoAction, ADamagedPhotoKeepsItsName)
     EXPECT_EQ(number, 2);
 }
 
-TEST(PhotoNumber, IsPaddedWithTheStartOfTheMask)
-{
-    const struct {
-        int number;
-        const char* mask;
-        const char* text;
-    } rows[] = { { 7, "0000", "0007" }, { 7, "", "7" }, { 12, "ab", "12" }, { 123, "ab", "123" }, { 5, "xyz", "xy5" },
-        { -3, "0000", "00-3" } };
-    for (const auto& row : rows)
-        EXPECT_EQ(paddedNumber(row.number, q(row.mask)), q(row.text)) << row.number << row.mask;
-}
-
-TEST(PhotoOptionsFrom, EveryOptionIsReadByKeyAndTheMaskFollowsTheFields)
+TEST(PhotoOptionsFrom, EveryOptionIsReadByKey)
 {
     Settings settings;
     settings.setPhotoMetaDataList({ "<EXIF_Date>", "<EXIF_Time>" });
-    settings.setIsPhotoRenamingSeperator(true);
-    settings.setPhotoRenamingSeperator(q("_"));
     settings.setIsPhotoRenamingColonReplace(true);
     settings.setPhotoRenamingColonReplace(q("-"));
     settings.setPhotoPaddingMask(q("00"));
     settings.setPhotoExtensions({ ".JPG" });
     settings.resetPhotoMask();
     const auto options = test::optionsFrom<PhotoOptions>(settings);
-    EXPECT_EQ(options.mask, q("<EXIF_Date>_<EXIF_Time>"));
-    EXPECT_TRUE(options.isSeparator && options.isColonReplace);
-    EXPECT_EQ(options.separator + options.colonReplace + options.paddingMask, q("_-00"));
-    EXPECT_EQ(options.tags, QStringList({ "<EXIF_Date>", "<EXIF_Time>" }));
-    EXPECT_EQ(options.allowedExtensions, QStringList({ ".JPG" }));
-    EXPECT_EQ(options.datePattern(), q("ddMMyyyy"));
-    EXPECT_EQ(options.timePattern(), q("HHmmss"));
-    settings.setIsPhotoRenamingSeperator(false);
-    settings.resetPhotoMask();
-    EXPECT_EQ(settings.photoRenamingMask(), q("<EXIF_Date><EXIF_Time>"));
+    EXPECT_EQ(options.mask, q("<EXIF_Date><EXIF_Time>"));
+    EXPECT_EQ(options.tags, settings.photoMetaDataList());
+    EXPECT_EQ(options.colonReplace + options.paddingMask + options.allowedExtensions.join(','), q("-00.JPG"));
+    EXPECT_EQ(options.datePattern() + options.timePattern(), q("ddMMyyyyHHmmss"));
 }
 
 TEST(PhotoFieldList, IsKeptInTheRecordAsArchivedFields)
