@@ -4,6 +4,7 @@
 #include "core/metadata/MetaDataCatalogue.h"
 #include "core/metadata/PhotoFiles.h"
 #include "core/profiles/Tabs.h"
+#include "core/text/LocalizedStrings.h"
 #include "gui/app/MainWindow.h"
 #include "gui/engine/ActionTabs.h"
 #include "gui/engine/RenamePanel.h"
@@ -169,6 +170,12 @@ TEST_F(MaskEditorTest, SearchFindsAFieldByLabelAndReturnAddsIt)
     EXPECT_FALSE(editor.filterItems(q("no such label")));
     EXPECT_TRUE(editor.filterItems(q("POSTAL")));
     EXPECT_EQ(outline()->currentItem()->text(0), q("Postal Code"));
+
+    LocalizedStrings::setLanguage(q("de"));
+    PhotoRenamingMaskEditor german(catalogue, {});
+    LocalizedStrings::setLanguage(q("en"));
+    EXPECT_TRUE(german.filterItems(q("postleit"))) << "labels are searched as they are shown";
+    EXPECT_EQ(german.findChild<QTreeWidget*>()->currentItem()->parent()->text(0), q("IPTC - Kontakt"));
 }
 
 TEST_F(MaskEditorTest, FieldsAreDraggedFromTheOutlineToTheList)

@@ -2,6 +2,7 @@
 
 #include "core/metadata/MetaDataCatalogue.h"
 #include "core/text/LocalizedStrings.h"
+#include "gui/metadata/FieldTexts.h"
 
 #include <QDialogButtonBox>
 #include <QDropEvent>
@@ -160,10 +161,10 @@ QWidget* PhotoRenamingMaskEditor::makeOutlinePane(const MetaDataCatalogue& catal
     m_outline->setDefaultDropAction(Qt::MoveAction);
     int index = 0;
     for (const MetaDataCategory& category : catalogue.metaDataList()) {
-        auto* categoryItem = new QTreeWidgetItem(m_outline, { category.name });
+        auto* categoryItem = new QTreeWidgetItem(m_outline, { shownFieldText(category.name) });
         categoryItem->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
         for (const MetaDataField& field : category.fields) {
-            auto* fieldItem = new QTreeWidgetItem(categoryItem, { field.label() });
+            auto* fieldItem = new QTreeWidgetItem(categoryItem, { shownFieldText(field.label()) });
             fieldItem->setData(0, kFieldRole, index++);
             fieldItem->setToolTip(0, field.tagCode());
             fieldItem->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled);
@@ -361,8 +362,8 @@ void PhotoRenamingMaskEditor::reloadTable()
     m_table->setRowCount(int(m_fields.size()));
     for (int row = 0; row < m_fields.size(); ++row) {
         const MetaDataField& field = m_fields.at(row);
-        m_table->setItem(row, LabelColumn, new QTableWidgetItem(field.label()));
-        m_table->setItem(row, CategoryColumn, new QTableWidgetItem(field.prefix()));
+        m_table->setItem(row, LabelColumn, new QTableWidgetItem(shownFieldText(field.label())));
+        m_table->setItem(row, CategoryColumn, new QTableWidgetItem(shownFieldText(field.prefix())));
         m_table->setItem(row, TokenColumn, new QTableWidgetItem(field.tagCode()));
     }
 }

@@ -43,7 +43,8 @@ public:
     void moveUp();
     void moveDown();
     void clearSelected();
-    // Selects the first field whose label holds the text, in any case; answers whether one did.
+    // Selects the first field whose label, as shown, holds the text in any case; answers
+    // whether one did.
     bool filterItems(const QString& text);
 
 protected:
