@@ -68,27 +68,14 @@ TEST_F(PhotoTabTest, QuickInsertsAddToTheMaskAndTheSeparatorRebuildsItFromTheFie
 
 class MaskEditorTest : public ::testing::Test {
 protected:
-    QTreeWidgetItem* outlineItem(const char* category, const char* label = nullptr) const
-    {
-        for (int top = 0; top < outline()->topLevelItemCount(); ++top) {
-            QTreeWidgetItem* item = outline()->topLevelItem(top);
-            if (item->text(0) != q(category))
-                continue;
-            for (int child = 0; label && child < item->childCount(); ++child) {
-                if (item->child(child)->text(0) == q(label))
-                    return item->child(child);
-            }
-            return label ? nullptr : item;
-        }
-        return nullptr;
-    }
-
-    // A double click on the outline's row.
+    // A double click on the outline's row of the category, or of its field.
     void pick(const char* category, const char* label = nullptr)
     {
-        QTreeWidgetItem* item = outlineItem(category, label);
-        ASSERT_NE(item, nullptr) << category;
-        outline()->setCurrentItem(item);
+        QList<QTreeWidgetItem*> found
+            = outline()->findItems(q(label ? label : category), Qt::MatchExactly | Qt::MatchRecursive);
+        found.removeIf([&](const QTreeWidgetItem* item) { return label && item->parent()->text(0) != q(category); });
+        ASSERT_FALSE(found.isEmpty()) << category;
+        outline()->setCurrentItem(found.first());
         editor.doubleClickOutline();
     }
 
