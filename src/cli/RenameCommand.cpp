@@ -51,12 +51,20 @@ const char* commandName(Mode mode)
 }
 
 // The options start at the empty profile, except that sub-folders follow --recursive.
-// The audio tab rebuilds its mask when its tokens or their separator change; so does --set.
+// The audio and photo tabs rebuild their masks when their tokens or separators change; so
+// does --set.
 bool rebuildsID3Mask(const QString& key)
 {
     return key == QLatin1String(Settings::id3RenamingTagsListKey)
         || key == QLatin1String(Settings::id3RenamingSeperatorKey)
         || key == QLatin1String(Settings::isID3RenamingSeperatorKey);
+}
+
+bool rebuildsPhotoMask(const QString& key)
+{
+    return key == QLatin1String(Settings::photoMetaDataListKey)
+        || key == QLatin1String(Settings::photoRenamingSeperatorKey)
+        || key == QLatin1String(Settings::isPhotoRenamingSeperatorKey);
 }
 
 bool configureSettings(Settings& settings, const CommonOptions& common, const RenameOptions& extra, QString& error)
@@ -74,6 +82,8 @@ bool configureSettings(Settings& settings, const CommonOptions& common, const Re
                 return false;
             if (rebuildsID3Mask(key))
                 settings.resetID3Mask();
+            if (rebuildsPhotoMask(key))
+                settings.resetPhotoMask();
             continue;
         }
         bool isNumber = false;

@@ -7,7 +7,9 @@
 #include "core/engine/actions/insertdelete.h"
 #include "core/engine/actions/pathcomponents.h"
 #include "core/engine/actions/prefixsuffix.h"
+#include "core/engine/actions/photo.h"
 #include "core/engine/actions/replaceremove.h"
+#include "core/metadata/MetaDataCatalogue.h"
 #include "core/profiles/Settings.h"
 #include "core/profiles/Tabs.h"
 
@@ -82,6 +84,18 @@ BoundAction bindID3Tags(const OptionValues& values)
     };
 }
 
+// Each run fills a catalogue of its own with the values of the photo at hand; the running
+// number starts at 1.
+BoundAction bindPhoto(const OptionValues& values)
+{
+    MetaDataCatalogue catalogue;
+    catalogue.InitializeMetaDataList();
+    return [options = PhotoOptions::from(values), catalogue, number = 1](FileSystemItem& item,
+                                                                         QString& error) mutable {
+        return renameByPhotoEXIFTags(item, options, catalogue, number, error);
+    };
+}
+
 // One row per tab; the actions of later tabs join this table as they are built.
 const ActionEntry kActions[] = {
     {tabs::AlphaNumeric, "AlphaNumeric", bindSequence, Settings::isAlphaNumericResetSequenceOnEachFolderKey},
@@ -92,6 +106,7 @@ const ActionEntry kActions[] = {
     {tabs::General, "General", bindGeneral, nullptr},
     {tabs::Audio, "ID3", bindID3Tags, nullptr},
     {tabs::PathComponents, "PathComponents", bindPathComponents, nullptr},
+    {tabs::Photo, "Photo", bindPhoto, Settings::isPhotoResetSequenceOnEachFolderKey},
     {tabs::FromFile, "", nullptr, nullptr},
 };
 

@@ -13,6 +13,7 @@
 #include "gui/engine/RenamePanel.h"
 #include "gui/list/FileTableModel.h"
 #include "gui/list/FileTableView.h"
+#include "gui/ui/ThumbnailPreview.h"
 #include "gui/list/ListModeSelector.h"
 #include "gui/log/UndoSheetController.h"
 #include "gui/ui/AttachedWindow.h"
@@ -157,6 +158,7 @@ QWidget* MainWindow::createCentralArea()
     m_table->setObjectName(QStringLiteral("fileTable"));
     m_table->setModel(m_model);
     setDefaultColumnWidths();
+    new ThumbnailPreview(m_table);
 
     m_actionArea = new QWidget;
     m_actionArea->setObjectName(QStringLiteral("actionArea"));

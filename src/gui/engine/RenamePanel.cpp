@@ -9,6 +9,7 @@
 #include "gui/engine/ActionTabs.h"
 #include "gui/engine/AudioTab.h"
 #include "gui/engine/DateTimeTab.h"
+#include "gui/engine/PhotoTab.h"
 #include "gui/engine/GeneralTab.h"
 #include "gui/engine/InsertDeleteTab.h"
 #include "gui/engine/PathComponentsTab.h"
@@ -88,6 +89,7 @@ RenamePanel::RenamePanel(
     m_tabs->addActionTab(new DateTimeTab(settings), tabs::DateTime, localized("DATETIMETAB"));
     m_tabs->addActionTab(new GeneralTab(settings), tabs::General, localized("GENERALTAB"));
     m_tabs->addActionTab(new AudioTab(settings), tabs::Audio, localized("AUDIOTAB"));
+    m_tabs->addActionTab(new PhotoTab(settings), tabs::Photo, localized("PHOTOTAB"));
     m_tabs->addActionTab(new PathComponentsTab(settings), tabs::PathComponents, localized("PATHCOMPONENTSTAB"));
     m_tabs->showSelectedTab();
     createActions();

@@ -34,6 +34,8 @@ const QSet<QString> kNotKeys = {
     QStringLiteral("ID3"),
     // Unicode date patterns the date fields offer.
     QStringLiteral("MMM"), QStringLiteral("MMMM"), QStringLiteral("EEE"), QStringLiteral("EEEE"),
+    // The groups photo metadata tokens are named after.
+    QStringLiteral("EXIF"), QStringLiteral("FILEINFO"), QStringLiteral("IPTC"), QStringLiteral("SEQUENCES"),
 };
 
 // Texts that read the same in a language as in English.
