@@ -29,14 +29,6 @@ constexpr int kRemove = 1;
 constexpr int kRemoveCharacters = 2;
 constexpr int kNoMode = -1;
 
-QGridLayout* groupGrid(QGroupBox* group)
-{
-    auto* grid = new QGridLayout(group);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
-    return grid;
-}
-
 // The mode as the action sees it, which asks its switches in this order.
 int chosenMode(const Settings& settings)
 {
@@ -91,7 +83,7 @@ QLayout* ReplaceRemoveTab::makeModeRow()
 QGroupBox* ReplaceRemoveTab::makeTextGroup()
 {
     auto* group = new QGroupBox(localized("REPLACETEXTGROUP"));
-    QGridLayout* grid = groupGrid(group);
+    QGridLayout* grid = OptionBinder::groupGrid(group);
 
     m_findLabel = new QLabel;
     QLineEdit* find = m_binder->textField({ Settings::replaceRemoveThisKey });
@@ -131,7 +123,7 @@ QGroupBox* ReplaceRemoveTab::makeTextGroup()
 QGroupBox* ReplaceRemoveTab::makeWhereGroup()
 {
     auto* group = new QGroupBox(localized("REPLACEWHEREGROUP"));
-    QGridLayout* grid = groupGrid(group);
+    QGridLayout* grid = OptionBinder::groupGrid(group);
 
     auto* startLabel = new QLabel(localized("REPLACESTARTFROM"));
     QLineEdit* start
