@@ -2,6 +2,8 @@
 
 #include "cli/ActionFlags.h"
 #include "cli/CommonOptions.h"
+#include "cli/ExportCommand.h"
+#include "cli/ImportCommand.h"
 #include "cli/ListCommand.h"
 #include "cli/LogsCommand.h"
 #include "cli/ManPage.h"
@@ -31,6 +33,8 @@ const Command kCommands[] = {
     { "logs", "CLILOGSSUMMARY", runLogsCommand },
     { "undo", "CLIUNDOSUMMARY", runUndoCommand },
     { "options", "CLIOPTIONSSUMMARY", runOptionsCommand },
+    { "export", "CLIEXPORTSUMMARY", runExportCommand },
+    { "import", "CLIIMPORTSUMMARY", runImportCommand },
 };
 
 QStringList commandNames()
@@ -57,8 +61,13 @@ int printCompletions(const QStringList& arguments, QTextStream& out)
         if (command == QLatin1String("preview") || command == QLatin1String("apply"))
             words << QStringLiteral("--tab") << QStringLiteral("--set") << QStringLiteral("--yes")
                   << QStringLiteral("--continue-without-log") << QStringLiteral("--dry-run") << actionFlagNames();
-        if (command == QLatin1String("undo"))
+        if (command == QLatin1String("export"))
+            words << QStringLiteral("--tab") << QStringLiteral("--set") << QStringLiteral("--columns")
+                  << QStringLiteral("--include-location") << QStringLiteral("--no-header") << QStringLiteral("--output");
+        if (command == QLatin1String("undo") || command == QLatin1String("import"))
             words << QStringLiteral("--yes");
+        if (command == QLatin1String("import"))
+            words << QStringLiteral("--apply");
         if (command == QLatin1String("options"))
             words << QStringLiteral("--tab");
     } else if (kind == QLatin1String("tabs")) {

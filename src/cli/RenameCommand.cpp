@@ -67,6 +67,8 @@ bool rebuildsPhotoMask(const QString& key)
         || key == QLatin1String(Settings::isPhotoRenamingSeperatorKey);
 }
 
+}  // namespace
+
 bool configureSettings(Settings& settings, const CommonOptions& common, const RenameOptions& extra, QString& error)
 {
     settings.chooseFilesOrFolders(common.scan.folders ? 1 : 0);
@@ -100,6 +102,8 @@ bool configureSettings(Settings& settings, const CommonOptions& common, const Re
     return true;
 }
 
+namespace {
+
 QString summaryLine(const FileList& list)
 {
     int proposals = 0;
@@ -130,6 +134,8 @@ void printRows(const FileList& list, const QStringList& namesBefore, QTextStream
     }
 }
 
+}  // namespace
+
 QStringList shownNames(const FileList& list)
 {
     QStringList names;
@@ -153,27 +159,21 @@ bool confirmApply(bool yes, QTextStream& err)
         && (reply.startsWith(QLatin1Char('y')) || reply.startsWith(localized("CLIYESLETTER").toLower()));
 }
 
-struct RunResult {
-    PreviewOutcome preview;
-    bool applyRequested = false;       // the apply command: its JSON always carries its keys
-    std::optional<ApplyOutcome> apply;  // set when something was applied
-};
-
-ApplyOutcome applyPreviewed(FileList& list, const OptionValues& values, const RenameOptions& extra,
+ApplyOutcome applyPreviewed(FileList& list, const OptionValues& values, bool continueWithoutLog,
                             QTextStream& err)
 {
     const QString logFolder = loadPreferences().defaultLogFolderPath;
-    const auto continueWithoutLog = [&] {
+    const auto askContinue = [&] {
         err << localized("LOGCREATEFAILED") << '\n';
-        if (!extra.continueWithoutLog)
+        if (!continueWithoutLog)
             err << localized("CLICONTINUEWITHOUTLOGHINT") << '\n';
-        return extra.continueWithoutLog;
+        return continueWithoutLog;
     };
     const InterruptGuard guard;
     interrupted.store(false);
     TerminalProgress progress;
     Pipeline pipeline(list, values);
-    return pipeline.applyRenames(logFolder, continueWithoutLog, interrupted, &progress);
+    return pipeline.applyRenames(logFolder, askContinue, interrupted, &progress);
 }
 
 void printResult(const LoadedList& loaded, const QStringList& namesBefore, const RunResult& result, bool json,
@@ -212,6 +212,38 @@ int exitStatus(const LoadedList& loaded, const RunResult& result)
     return kExitDone;
 }
 
+std::optional<int> previewPaths(const char* command, CommonOptions& common, const RenameOptions& extra, bool forApply,
+                                Settings& settings, LoadedList& loaded, PreviewOutcome& preview, QTextStream& err)
+{
+    QString error;
+    if (!configureSettings(settings, common, extra, error))
+        return reportUsageError(command, error, err);
+    const int tab = settings.selectedTab();
+    if (const auto failure = validateAndNormalise(settings, tab)) {
+        err << failure->title() << ": " << failure->message() << '\n';
+        return kExitBadUsage;
+    }
+
+    common.scan = ScanOptions{settings.isFolders(), settings.isIncludeSubFolders(), tab == tabs::FromFile};
+    loaded = loadList(common);
+    reportProblems(loaded, !common.json, err);
+    const PropertyOptionValues values(settings);
+    // Previewing in the order apply will work in keeps the rows of the report in step with
+    // the renames.
+    if (forApply)
+        Pipeline(loaded.list, values).arrangeForApply();
+    {
+        TerminalProgress progress;
+        const std::atomic_bool neverCancelled{false};
+        preview = Pipeline(loaded.list, values).preview(neverCancelled, &progress);
+    }
+    if (preview.conflicts > 0)
+        err << localized("CLICONFLICTS").arg(preview.conflicts) << '\n';
+    return std::nullopt;
+}
+
+namespace {
+
 bool parseArguments(Mode mode, const QStringList& arguments, CommonOptions& common, RenameOptions& extra,
                     QString& error)
 {
@@ -239,39 +271,20 @@ int runRename(Mode mode, const QStringList& arguments, QTextStream& out, QTextSt
         return kExitDone;
     }
     Settings settings;
-    if (!configureSettings(settings, common, extra, error))
-        return reportUsageError(commandName(mode), error, err);
-    const int tab = settings.selectedTab();
-    if (const auto failure = validateAndNormalise(settings, tab)) {
-        err << failure->title() << ": " << failure->message() << '\n';
-        return kExitBadUsage;
-    }
-
-    common.scan = ScanOptions{settings.isFolders(), settings.isIncludeSubFolders(), tab == tabs::FromFile};
-    LoadedList loaded = loadList(common);
-    reportProblems(loaded, !common.json, err);
-    const PropertyOptionValues values(settings);
-    // Previewing in the order apply will work in keeps the rows of the report in step with
-    // the renames.
-    if (mode == Mode::Apply)
-        Pipeline(loaded.list, values).arrangeForApply();
-
+    LoadedList loaded;
     RunResult result;
     result.applyRequested = mode == Mode::Apply;
-    {
-        TerminalProgress progress;
-        const std::atomic_bool neverCancelled{false};
-        result.preview = Pipeline(loaded.list, values).preview(neverCancelled, &progress);
-    }
-    if (result.preview.conflicts > 0)
-        err << localized("CLICONFLICTS").arg(result.preview.conflicts) << '\n';
+    if (const std::optional<int> refused = previewPaths(commandName(mode), common, extra, result.applyRequested,
+                                                        settings, loaded, result.preview, err))
+        return *refused;
+    const PropertyOptionValues values(settings);
     const QStringList namesBefore = shownNames(loaded.list);
     if (mode == Mode::Apply && result.preview.hasFilesForRenaming) {
         if (!confirmApply(extra.yes, err)) {
             err << localized("CLIAPPLYDECLINED") << '\n';
             return kExitDone;
         }
-        result.apply = applyPreviewed(loaded.list, values, extra, err);
+        result.apply = applyPreviewed(loaded.list, values, extra.continueWithoutLog, err);
     }
     printResult(loaded, namesBefore, result, common.json, out, err);
     return exitStatus(loaded, result);

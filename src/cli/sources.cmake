@@ -2,6 +2,8 @@ target_sources(tavrin_cli_lib PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ActionFlags.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Cli.cpp
   ${CMAKE_CURRENT_LIST_DIR}/CommonOptions.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ExportCommand.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ImportCommand.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCommand.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListJson.cpp
   ${CMAKE_CURRENT_LIST_DIR}/LoadedList.cpp

@@ -31,3 +31,7 @@ tavrin_add_test(test_cli_photo
   LIBS PkgConfig::EXIV2 Qt6::Gui)
 target_compile_definitions(test_cli_photo PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
 add_dependencies(test_cli_photo tavrin-cli)
+
+tavrin_add_test(test_cli_export_import SOURCES ${CMAKE_CURRENT_LIST_DIR}/ExportImportCommandTest.cpp)
+target_compile_definitions(test_cli_export_import PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
+add_dependencies(test_cli_export_import tavrin-cli)

@@ -135,6 +135,7 @@ void MainWindow::connectActions()
     connect(
         m_actions->defaultProfile(), &QAction::triggered, m_documents, &DocumentCommands::loadDefaultProfile);
     connect(m_actions->preferences(), &QAction::triggered, m_sheets, &WindowSheets::openPreferences);
+    connect(m_actions->exportList(), &QAction::triggered, m_sheets, &WindowSheets::openExportSheet);
     connect(m_actions->livePreview(), &QAction::triggered, this, &MainWindow::toggleLivePreview);
     connect(m_actions->help(), &QAction::triggered, this,
         [this] { m_sheets->showHelpPage(QStringLiteral("main.html")); });

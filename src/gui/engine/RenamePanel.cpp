@@ -16,6 +16,7 @@
 #include "gui/engine/PrefixSuffixTab.h"
 #include "gui/engine/ReplaceRemoveTab.h"
 #include "gui/engine/SequenceTab.h"
+#include "gui/io/FromFileTab.h"
 #include "gui/ui/AttachedWindow.h"
 #include "gui/ui/Prompter.h"
 
@@ -91,6 +92,8 @@ RenamePanel::RenamePanel(
     m_tabs->addActionTab(new AudioTab(settings), tabs::Audio, localized("AUDIOTAB"));
     m_tabs->addActionTab(new PhotoTab(settings), tabs::Photo, localized("PHOTOTAB"));
     m_tabs->addActionTab(new PathComponentsTab(settings), tabs::PathComponents, localized("PATHCOMPONENTSTAB"));
+    m_fromFileTab = new FromFileTab(*rename);
+    m_tabs->addActionTab(m_fromFileTab, tabs::FromFile, localized("FROMFILETAB"));
     m_tabs->showSelectedTab();
     createActions();
 
@@ -105,6 +108,12 @@ RenamePanel::RenamePanel(
 }
 
 RenamePanel::~RenamePanel() = default;
+
+void RenamePanel::setPrompter(Prompter* prompter)
+{
+    m_prompter = prompter;
+    m_fromFileTab->setPrompter(prompter);
+}
 
 void RenamePanel::createActions()
 {
