@@ -2,7 +2,9 @@
 
 #include "cli/ListCommand.h"
 #include "cli/LogsCommand.h"
+#include "cli/ProfileCommand.h"
 #include "cli/RenameCommand.h"
+#include "cli/RuleCommand.h"
 #include "cli/UndoCommand.h"
 #include "cli/Usage.h"
 #include "core/text/LocalizedStrings.h"
@@ -23,6 +25,8 @@ const Command kCommands[] = {
     { "apply", "CLIAPPLYSUMMARY", runApplyCommand },
     { "logs", "CLILOGSSUMMARY", runLogsCommand },
     { "undo", "CLIUNDOSUMMARY", runUndoCommand },
+    { "rule", "CLIRULESUMMARY", runRuleCommand },
+    { "profile", "CLIPROFILESUMMARY", runProfileCommand },
 };
 
 const Command* findCommand(const QString& name)

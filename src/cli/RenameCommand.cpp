@@ -1,5 +1,6 @@
 #include "cli/RenameCommand.h"
 
+#include "cli/CommandSettings.h"
 #include "cli/ListJson.h"
 #include "cli/LoadedList.h"
 #include "cli/RenameOptions.h"
@@ -49,40 +50,12 @@ const char* commandName(Mode mode)
     return mode == Mode::Preview ? "preview" : "apply";
 }
 
-// The options start at the empty profile, except that sub-folders follow --recursive.
-// The audio tab rebuilds its mask when its tokens or their separator change; so does --set.
-bool rebuildsID3Mask(const QString& key)
+bool tabIsAvailable(const Settings& settings, QString& error)
 {
-    return key == QLatin1String(Settings::id3RenamingTagsListKey)
-        || key == QLatin1String(Settings::id3RenamingSeperatorKey)
-        || key == QLatin1String(Settings::isID3RenamingSeperatorKey);
-}
-
-bool configureSettings(Settings& settings, const CommonOptions& common, const RenameOptions& extra, QString& error)
-{
-    settings.chooseFilesOrFolders(common.scan.folders ? 1 : 0);
-    settings.setIsIncludeSubFolders(common.scan.includeSubFolders);
-    settings.setSelectedTab(extra.tab.value_or(settings.selectedTab()));
-    for (const auto& [key, value] : extra.assignments) {
-        if (!Settings::isRadioIndexKey(key)) {
-            if (!settings.setOptionFromString(key, value, &error))
-                return false;
-            if (rebuildsID3Mask(key))
-                settings.resetID3Mask();
-            continue;
-        }
-        bool isNumber = false;
-        const int index = value.toInt(&isNumber);
-        if (!isNumber || !settings.chooseRadioOption(key, index)) {
-            error = localized("CLIBADRADIOINDEX").arg(value, key);
-            return false;
-        }
-    }
-    if (!actionForTab(settings.selectedTab())) {
-        error = localized("CLITABNOTAVAILABLE").arg(tabName(settings.selectedTab()));
-        return false;
-    }
-    return true;
+    if (actionForTab(settings.selectedTab()))
+        return true;
+    error = localized("CLITABNOTAVAILABLE").arg(tabName(settings.selectedTab()));
+    return false;
 }
 
 QString summaryLine(const FileList& list)
@@ -217,14 +190,24 @@ int runRename(Mode mode, const QStringList& arguments, QTextStream& out, QTextSt
     if (!parseArguments(mode, arguments, common, extra, error))
         return reportUsageError(commandName(mode), error, err);
     if (common.help) {
-        out << localized(mode == Mode::Preview ? "CLIPREVIEWUSAGE" : "CLIAPPLYUSAGE") << '\n';
+        out << localized(mode == Mode::Preview ? "CLIPREVIEWUSAGE" : "CLIAPPLYUSAGE") << "\n\n"
+            << localized("CLIRULEPROFILEOPTIONS") << '\n';
         return kExitDone;
     }
     Settings settings;
     if (!configureSettings(settings, common, extra, error))
         return reportUsageError(commandName(mode), error, err);
+    // A rule's steps run with the values they hold, unchecked, as the window runs them.
+    std::optional<RuleChain> rules;
+    if (extra.rule) {
+        rules = openRuleOption(*extra.rule, error);
+        if (!rules)
+            return reportUsageError(commandName(mode), error, err);
+    } else if (!tabIsAvailable(settings, error)) {
+        return reportUsageError(commandName(mode), error, err);
+    }
     const int tab = settings.selectedTab();
-    if (const auto failure = validateAndNormalise(settings, tab)) {
+    if (const auto failure = rules ? std::nullopt : validateAndNormalise(settings, tab)) {
         err << localized(failure->titleKey.toLatin1().constData()) << ": "
             << localized(failure->messageKey.toLatin1().constData()) << '\n';
         return kExitBadUsage;
@@ -244,7 +227,9 @@ int runRename(Mode mode, const QStringList& arguments, QTextStream& out, QTextSt
     {
         TerminalProgress progress;
         const std::atomic_bool neverCancelled{false};
-        result.preview = Pipeline(loaded.list, values).preview(neverCancelled, &progress);
+        Pipeline pipeline(loaded.list, values);
+        result.preview = rules ? pipeline.previewRule(*rules, neverCancelled, &progress)
+                               : pipeline.preview(neverCancelled, &progress);
     }
     if (result.preview.conflicts > 0)
         err << localized("CLICONFLICTS").arg(result.preview.conflicts) << '\n';

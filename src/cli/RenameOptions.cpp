@@ -35,6 +35,17 @@ ExtraOptions::Outcome takeAssignment(const TakeValue& takeValue, QList<QPair<QSt
     return ExtraOptions::Outcome::Taken;
 }
 
+ExtraOptions::Outcome takeFile(const char* option, const TakeValue& takeValue, std::optional<QString>& file,
+                               QString& error)
+{
+    file = takeValue();
+    if (!file || file->isEmpty()) {
+        error = localized("CLIMISSINGVALUE").arg(QString::fromLatin1(option));
+        return ExtraOptions::Outcome::Bad;
+    }
+    return ExtraOptions::Outcome::Taken;
+}
+
 }  // namespace
 
 ExtraOptions::Outcome RenameOptions::takeOption(const QString& name, const TakeValue& takeValue, QString& error)
@@ -43,6 +54,10 @@ ExtraOptions::Outcome RenameOptions::takeOption(const QString& name, const TakeV
         return takeTab(takeValue, tab, error);
     if (name == QLatin1String("--set"))
         return takeAssignment(takeValue, assignments, error);
+    if (name == QLatin1String("--rule"))
+        return takeFile("--rule", takeValue, rule, error);
+    if (name == QLatin1String("--profile"))
+        return takeFile("--profile", takeValue, profile, error);
     if (name == QLatin1String("--yes"))
         yes = true;
     else if (name == QLatin1String("--continue-without-log"))

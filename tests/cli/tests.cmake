@@ -19,3 +19,7 @@ add_dependencies(test_cli_audio tavrin-cli)
 tavrin_add_test(test_cli_dates SOURCES ${CMAKE_CURRENT_LIST_DIR}/DateCommandTest.cpp)
 target_compile_definitions(test_cli_dates PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
 add_dependencies(test_cli_dates tavrin-cli)
+
+tavrin_add_test(test_cli_rules SOURCES ${CMAKE_CURRENT_LIST_DIR}/RuleCommandTest.cpp)
+target_compile_definitions(test_cli_rules PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
+add_dependencies(test_cli_rules tavrin-cli)
