@@ -27,9 +27,14 @@ public:
     void openPreferences();
     // How items from outside that include folders are listed.
     void openPasteboardItemsSheet(const QStringList& paths);
+    // The rule files sheet; its preview asks for the chain to be previewed.
+    void openRulesSheet();
     // Opens a help page of the current language in the desktop's browser.
     void showHelpPage(const QString& page);
     void showAbout();
+
+signals:
+    void rulePreviewRequested();
 
 private:
     TavrinAppController* m_controller;
