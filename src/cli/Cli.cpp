@@ -10,6 +10,8 @@
 #include "cli/OptionsCommand.h"
 #include "cli/RenameCommand.h"
 #include "cli/Suggestion.h"
+#include "cli/ProfileCommand.h"
+#include "cli/RuleCommand.h"
 #include "cli/UndoCommand.h"
 #include "cli/Usage.h"
 #include "core/profiles/Settings.h"
@@ -35,6 +37,8 @@ const Command kCommands[] = {
     { "options", "CLIOPTIONSSUMMARY", runOptionsCommand },
     { "export", "CLIEXPORTSUMMARY", runExportCommand },
     { "import", "CLIIMPORTSUMMARY", runImportCommand },
+    { "rule", "CLIRULESUMMARY", runRuleCommand },
+    { "profile", "CLIPROFILESUMMARY", runProfileCommand },
 };
 
 QStringList commandNames()

@@ -1,5 +1,6 @@
 #include "cli/RenameCommand.h"
 
+#include "cli/CommandSettings.h"
 #include "cli/ListJson.h"
 #include "cli/LoadedList.h"
 #include "cli/RenameOptions.h"
@@ -50,59 +51,13 @@ const char* commandName(Mode mode)
     return mode == Mode::Preview ? "preview" : "apply";
 }
 
-// The options start at the empty profile, except that sub-folders follow --recursive.
-// The audio and photo tabs rebuild their masks when their tokens or separators change; so
-// does --set.
-bool rebuildsID3Mask(const QString& key)
+bool tabIsAvailable(const Settings& settings, QString& error)
 {
-    return key == QLatin1String(Settings::id3RenamingTagsListKey)
-        || key == QLatin1String(Settings::id3RenamingSeperatorKey)
-        || key == QLatin1String(Settings::isID3RenamingSeperatorKey);
+    if (actionForTab(settings.selectedTab()))
+        return true;
+    error = localized("CLITABNOTAVAILABLE").arg(tabName(settings.selectedTab()));
+    return false;
 }
-
-bool rebuildsPhotoMask(const QString& key)
-{
-    return key == QLatin1String(Settings::photoMetaDataListKey)
-        || key == QLatin1String(Settings::photoRenamingSeperatorKey)
-        || key == QLatin1String(Settings::isPhotoRenamingSeperatorKey);
-}
-
-}  // namespace
-
-bool configureSettings(Settings& settings, const CommonOptions& common, const RenameOptions& extra, QString& error)
-{
-    settings.chooseFilesOrFolders(common.scan.folders ? 1 : 0);
-    settings.setIsIncludeSubFolders(common.scan.includeSubFolders);
-    settings.setSelectedTab(extra.tab.value_or(settings.selectedTab()));
-    for (const auto& [key, value] : extra.assignments) {
-        if (!Settings::hasOption(key)) {
-            error = localized("CLIUNKNOWNOPTIONKEY").arg(key) + didYouMean(key, Settings::optionKeys());
-            return false;
-        }
-        if (!Settings::isRadioIndexKey(key)) {
-            if (!settings.setOptionFromString(key, value, &error))
-                return false;
-            if (rebuildsID3Mask(key))
-                settings.resetID3Mask();
-            if (rebuildsPhotoMask(key))
-                settings.resetPhotoMask();
-            continue;
-        }
-        bool isNumber = false;
-        const int index = value.toInt(&isNumber);
-        if (!isNumber || !settings.chooseRadioOption(key, index)) {
-            error = localized("CLIBADRADIOINDEX").arg(value, key);
-            return false;
-        }
-    }
-    if (!actionForTab(settings.selectedTab())) {
-        error = localized("CLITABNOTAVAILABLE").arg(tabName(settings.selectedTab()));
-        return false;
-    }
-    return true;
-}
-
-namespace {
 
 QString summaryLine(const FileList& list)
 {
@@ -218,8 +173,17 @@ std::optional<int> previewPaths(const char* command, CommonOptions& common, cons
     QString error;
     if (!configureSettings(settings, common, extra, error))
         return reportUsageError(command, error, err);
+    // A rule's steps run with the values they hold, unchecked, as the window runs them.
+    std::optional<RuleChain> rules;
+    if (extra.rule) {
+        rules = openRuleOption(*extra.rule, error);
+        if (!rules)
+            return reportUsageError(command, error, err);
+    } else if (!tabIsAvailable(settings, error)) {
+        return reportUsageError(command, error, err);
+    }
     const int tab = settings.selectedTab();
-    if (const auto failure = validateAndNormalise(settings, tab)) {
+    if (const auto failure = rules ? std::nullopt : validateAndNormalise(settings, tab)) {
         err << failure->title() << ": " << failure->message() << '\n';
         return kExitBadUsage;
     }
@@ -235,7 +199,9 @@ std::optional<int> previewPaths(const char* command, CommonOptions& common, cons
     {
         TerminalProgress progress;
         const std::atomic_bool neverCancelled{false};
-        preview = Pipeline(loaded.list, values).preview(neverCancelled, &progress);
+        Pipeline pipeline(loaded.list, values);
+        preview = rules ? pipeline.previewRule(*rules, neverCancelled, &progress)
+                        : pipeline.preview(neverCancelled, &progress);
     }
     if (preview.conflicts > 0)
         err << localized("CLICONFLICTS").arg(preview.conflicts) << '\n';
@@ -267,7 +233,8 @@ int runRename(Mode mode, const QStringList& arguments, QTextStream& out, QTextSt
     if (extra.dryRun)
         mode = Mode::Preview;
     if (common.help) {
-        out << localized(mode == Mode::Preview ? "CLIPREVIEWUSAGE" : "CLIAPPLYUSAGE") << '\n';
+        out << localized(mode == Mode::Preview ? "CLIPREVIEWUSAGE" : "CLIAPPLYUSAGE") << "\n\n"
+            << localized("CLIRULEPROFILEOPTIONS") << '\n';
         return kExitDone;
     }
     Settings settings;

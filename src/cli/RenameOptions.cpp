@@ -39,6 +39,17 @@ ExtraOptions::Outcome takeAssignment(const TakeValue& takeValue, QList<QPair<QSt
     return ExtraOptions::Outcome::Taken;
 }
 
+ExtraOptions::Outcome takeFile(const char* option, const TakeValue& takeValue, std::optional<QString>& file,
+                               QString& error)
+{
+    file = takeValue();
+    if (!file || file->isEmpty()) {
+        error = localized("CLIMISSINGVALUE").arg(QString::fromLatin1(option));
+        return ExtraOptions::Outcome::Bad;
+    }
+    return ExtraOptions::Outcome::Taken;
+}
+
 }  // namespace
 
 ExtraOptions::Outcome RenameOptions::takeOption(const QString& name, const TakeValue& takeValue, QString& error)
@@ -51,6 +62,10 @@ ExtraOptions::Outcome RenameOptions::takeOption(const QString& name, const TakeV
         return takeAssignment(takeValue, assignments, error);
     if (isActionFlag(name))
         return takeActionFlag(name, takeValue, error);
+    if (name == QLatin1String("--rule"))
+        return takeFile("--rule", takeValue, rule, error);
+    if (name == QLatin1String("--profile"))
+        return takeFile("--profile", takeValue, profile, error);
     if (name == QLatin1String("--yes") || name == QLatin1String("-y"))
         yes = true;
     else if (name == QLatin1String("--continue-without-log"))
@@ -65,7 +80,8 @@ ExtraOptions::Outcome RenameOptions::takeOption(const QString& name, const TakeV
 QStringList RenameOptions::optionNames() const
 {
     return QStringList{QStringLiteral("--tab"), QStringLiteral("--set"), QStringLiteral("--yes"),
-                       QStringLiteral("--continue-without-log"), QStringLiteral("--dry-run")}
+                       QStringLiteral("--continue-without-log"), QStringLiteral("--dry-run"),
+                       QStringLiteral("--rule"), QStringLiteral("--profile")}
         + actionFlagNames();
 }
 

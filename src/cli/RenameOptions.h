@@ -19,6 +19,8 @@ public:
     QList<QPair<QString, QString>> assignments;  // --set KEY=VALUE and the action flags, in the order given
     bool yes = false;
     bool continueWithoutLog = false;
+    std::optional<QString> rule;     // --rule FILE: a rule file's steps in place of a tab
+    std::optional<QString> profile;  // --profile FILE: the options start from a profile
     bool dryRun = false;  // apply only previews
 
 private:

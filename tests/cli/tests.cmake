@@ -35,3 +35,7 @@ add_dependencies(test_cli_photo tavrin-cli)
 tavrin_add_test(test_cli_export_import SOURCES ${CMAKE_CURRENT_LIST_DIR}/ExportImportCommandTest.cpp)
 target_compile_definitions(test_cli_export_import PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
 add_dependencies(test_cli_export_import tavrin-cli)
+
+tavrin_add_test(test_cli_rules SOURCES ${CMAKE_CURRENT_LIST_DIR}/RuleCommandTest.cpp)
+target_compile_definitions(test_cli_rules PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
+add_dependencies(test_cli_rules tavrin-cli)

@@ -41,7 +41,7 @@ protected:
 // preview, and the profile in use, saved first when the preferences say so.
 TEST_F(SessionTest, QuitThenStartGivesBackTheSession)
 {
-    const QVariantList rules { QVariantMap { { u"rule"_s, u"General"_s }, { u"isActive"_s, u"1"_s } } };
+    const RuleChain rules { RuleStep { { u"rule"_s, u"General"_s }, { u"isActive"_s, u"1"_s } } };
     const QString profile = tree.path(u"photos.tnprofile"_s);
     ASSERT_TRUE(session().saveProfile(profile));
     settings().chooseGeneralOption(4);

@@ -2,6 +2,7 @@
 
 #include "core/engine/FolderPathIndex.h"
 #include "core/engine/ProposalConflicts.h"
+#include "core/engine/RuleProposer.h"
 #include "core/engine/actions/general.h"
 #include "core/list/FileList.h"
 #include "core/list/StatusTexts.h"
@@ -79,6 +80,13 @@ Pipeline::Pipeline(FileList& list, const OptionValues& options)
 PreviewOutcome Pipeline::preview(const std::atomic_bool& cancel, ProgressObserver* observer, int limit)
 {
     TabProposer proposer(m_options, m_options.integer(Settings::selectedTabKey));
+    return preview(proposer, cancel, observer, limit);
+}
+
+PreviewOutcome Pipeline::previewRule(const RuleChain& rules, const std::atomic_bool& cancel,
+                                     ProgressObserver* observer, int limit)
+{
+    RuleProposer proposer(rules);
     return preview(proposer, cancel, observer, limit);
 }
 

@@ -3,6 +3,7 @@
 #include "core/engine/ActionRegistry.h"
 #include "core/engine/OptionValues.h"
 #include "core/list/Progress.h"
+#include "core/rules/RuleStep.h"
 
 #include <QString>
 #include <atomic>
@@ -39,7 +40,8 @@ using ContinueWithoutLog = std::function<bool()>;
 class Proposer {
 public:
     virtual ~Proposer() = default;
-    // The counters start again (the start of a run, and each new folder when they restart there).
+    // The counters that restart in each folder start again (at each new folder, when
+    // restartsInEachFolder() says they do).
     virtual void resetCounters() = 0;
     virtual bool restartsInEachFolder() const = 0;
     // False for the rename-from-file tab, whose proposals are imported, not computed.
@@ -75,6 +77,9 @@ public:
     PreviewOutcome preview(const std::atomic_bool& cancel, ProgressObserver* observer, int limit = -1);
     PreviewOutcome preview(Proposer& proposer, const std::atomic_bool& cancel, ProgressObserver* observer,
                            int limit = -1);
+    // The same with the active steps of a rule chain in place of the tab's action (RuleProposer).
+    PreviewOutcome previewRule(const RuleChain& rules, const std::atomic_bool& cancel, ProgressObserver* observer,
+                               int limit = -1);
 
     // Puts the list in the order apply works in: folder by folder, a folder's items by name,
     // when folders move with their contents (folders with sub-folders, or a rename list), so

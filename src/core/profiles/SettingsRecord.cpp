@@ -160,4 +160,14 @@ bool setSettings(Settings& settings, const QVariantMap& record, QString* error)
     return true;
 }
 
+QString recordDateText(const QDateTime& date)
+{
+    return dateDescription(date);
+}
+
+std::optional<QDateTime> recordDateFromText(const QString& text)
+{
+    return dateFromDescription(text);
+}
+
 }  // namespace tavrin

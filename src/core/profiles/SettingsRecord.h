@@ -3,6 +3,9 @@
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
+#include <optional>
+
+class QDateTime;
 
 namespace tavrin {
 
@@ -31,5 +34,10 @@ QVariantMap getCurrentSettings(const Settings& settings);
 // value that cannot be applied stops the application with a message for the user: the
 // options set before it stay set.
 bool setSettings(Settings& settings, const QVariantMap& record, QString* error = nullptr);
+
+// The custom date as records and rule steps hold it: "yyyy-MM-dd HH:mm:ss +0000" in UTC.
+// Reading takes any offset; nothing for a text of another form.
+QString recordDateText(const QDateTime& date);
+std::optional<QDateTime> recordDateFromText(const QString& text);
 
 }  // namespace tavrin

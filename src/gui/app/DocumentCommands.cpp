@@ -91,16 +91,19 @@ void DocumentCommands::openRuleDocument(const QString& path)
     // A rule opened from the library itself is already there.
     if (QFileInfo(libraryPath) == QFileInfo(path)) {
         m_prompter->inform(m_window, { title, localized("RULEADDEDTOLIBRARY").arg(name) });
+        emit ruleInLibrary(name);
         return;
     }
     if (pathExists(libraryPath)
         && !m_prompter->askYesNo(m_window, { title, localized("RULEALREADYEXISTS").arg(name) }))
         return;
     QString error;
-    if (addRuleToLibrary(path, rulesFolder, &error))
-        m_prompter->inform(m_window, { title, localized("RULEADDEDTOLIBRARY").arg(name) });
-    else
+    if (!addRuleToLibrary(path, rulesFolder, &error)) {
         m_prompter->warn(m_window, { title, error });
+        return;
+    }
+    m_prompter->inform(m_window, { title, localized("RULEADDEDTOLIBRARY").arg(name) });
+    emit ruleInLibrary(name);
 }
 
 } // namespace tavrin

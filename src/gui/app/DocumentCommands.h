@@ -30,11 +30,15 @@ public:
     // A profile opened with the application replaces the options only when the user agrees.
     void openProfileDocument(const QString& path);
     // A rule file opened with the application joins the rules library: after a question
-    // when the library already holds a rule of that name.
+    // when the library already holds a rule of that name. Then it is the rule in use.
     void openRuleDocument(const QString& path);
 
     // Tells why a profile could not be opened; nothing for one that opened.
     void showProfileOutcome(const ProfileOutcome& outcome);
+
+signals:
+    // A rule file opened with the application is in the rules library under this name.
+    void ruleInLibrary(const QString& fileName);
 
 private:
     void saveProfileTo(const QString& path);

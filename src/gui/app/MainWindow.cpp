@@ -16,6 +16,7 @@
 #include "gui/ui/ThumbnailPreview.h"
 #include "gui/list/ListModeSelector.h"
 #include "gui/log/UndoSheetController.h"
+#include "gui/rules/RulesCommands.h"
 #include "gui/ui/AttachedWindow.h"
 #include "gui/ui/ElidedLabel.h"
 #include "gui/ui/MessageBoxPrompter.h"
@@ -85,6 +86,8 @@ MainWindow::MainWindow(TavrinAppController* controller, QWidget* parent)
     m_contextMenus = new TableContextMenus({ m_table, m_actions, &controller->rename() }, this);
     m_contextMenus->restoreHiddenColumns();
     m_actions->fillMenuBar(menuBar(), { m_renamePanel->previewAction(), m_renamePanel->applyAction() });
+    m_rules = new RulesCommands({ controller, m_sheets, m_renamePanel }, this);
+    menuBar()->insertMenu(menuBar()->actions().constLast(), m_rules->menu());
     createStatusArea();
     handOutPrompter();
     connectActions();
@@ -114,6 +117,7 @@ void MainWindow::handOutPrompter()
     m_sheets->setPrompter(m_prompter.get());
     m_renamePanel->setPrompter(m_prompter.get());
     m_contextMenus->setPrompter(m_prompter.get());
+    m_rules->setPrompter(m_prompter.get());
 }
 
 void MainWindow::connectActions()
@@ -264,6 +268,7 @@ void MainWindow::connectController()
     connect(&m_controller->rename().livePreview(), &LivePreview::stateChanged, this,
         &MainWindow::updateLivePreviewAction);
     connect(m_opener, &DocumentOpener::ruleFileOpened, m_documents, &DocumentCommands::openRuleDocument);
+    connect(m_documents, &DocumentCommands::ruleInLibrary, m_rules, &RulesCommands::ruleMenuItemClick);
     connect(
         m_opener, &DocumentOpener::profileFileOpened, m_documents, &DocumentCommands::openProfileDocument);
 

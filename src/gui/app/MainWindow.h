@@ -26,6 +26,7 @@ class FileTableView;
 class ListModeSelector;
 class TableContextMenus;
 class RenamePanel;
+class RulesCommands;
 class TavrinAppController;
 class WindowActions;
 class WindowSheets;
@@ -55,6 +56,7 @@ public:
     // Adds what the file manager put on the clipboard, as items opened with the application.
     void pasteItems();
     WindowSheets* sheets() const { return m_sheets; }
+    RulesCommands* rules() const { return m_rules; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -113,6 +115,7 @@ private:
     DocumentOpener* m_opener;
     WindowSheets* m_sheets;
     WindowActions* m_actions;
+    RulesCommands* m_rules = nullptr;
 
     QLabel* m_countLabel = nullptr;
     ElidedLabel* m_progressLabel = nullptr;

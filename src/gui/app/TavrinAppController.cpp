@@ -7,6 +7,7 @@ TavrinAppController::TavrinAppController(QObject* parent)
     , m_list(m_settings, m_status)
     , m_session(m_settings, m_list)
     , m_rename(m_list, m_session)
+    , m_rules(m_session, m_list)
 {
     m_settings.resetToStartValues();
     m_list.setSortOnArrival(m_session.sortsOnArrival());

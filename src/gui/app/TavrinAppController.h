@@ -4,6 +4,7 @@
 #include "gui/control/ActivityStatus.h"
 #include "gui/control/ListController.h"
 #include "gui/control/RenameController.h"
+#include "gui/control/RulesController.h"
 #include "gui/control/SessionController.h"
 
 #include <QObject>
@@ -27,6 +28,7 @@ public:
     const ListController& list() const { return m_list; }
     RenameController& rename() { return m_rename; }
     SessionController& session() { return m_session; }
+    RulesController& rules() { return m_rules; }
 
     // The start and the end of a session: the last profile, rule chain, options and
     // live-preview state come back from the user defaults, and go there at the end. A
@@ -41,6 +43,7 @@ private:
     ListController m_list;
     SessionController m_session;
     RenameController m_rename;
+    RulesController m_rules;
 };
 
 } // namespace tavrin

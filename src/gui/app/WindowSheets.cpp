@@ -7,6 +7,7 @@
 #include "gui/engine/LivePreviewSheet.h"
 #include "gui/io/ExportSheetController.h"
 #include "gui/list/PasteboardItemsSheet.h"
+#include "gui/rules/RulesSheet.h"
 #include "gui/log/HelpPage.h"
 #include "gui/ui/Prompter.h"
 
@@ -75,6 +76,16 @@ void WindowSheets::openPasteboardItemsSheet(const QStringList& paths)
             sheet->isIncludeSubFolders() };
         m_controller->list().addPastedItems(sheet->paths(), choice);
     });
+    sheet->open();
+}
+
+void WindowSheets::openRulesSheet()
+{
+    auto* sheet = new RulesSheet(m_controller->rules(), m_controller->session(), m_prompter, m_window);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    connect(sheet, &RulesSheet::helpRequested, this, [this] { showHelpPage(QStringLiteral("rules.html")); });
+    // Once the sheet is gone, so that the preview shows in the window.
+    connect(sheet, &RulesSheet::previewRequested, this, &WindowSheets::rulePreviewRequested, Qt::QueuedConnection);
     sheet->open();
 }
 

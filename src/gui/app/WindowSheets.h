@@ -27,11 +27,16 @@ public:
     void openPreferences();
     // How items from outside that include folders are listed.
     void openPasteboardItemsSheet(const QStringList& paths);
+    // The rule files sheet; its preview asks for the chain to be previewed.
+    void openRulesSheet();
     // Opens a help page of the current language in the desktop's browser.
     void showHelpPage(const QString& page);
     void showAbout();
     // The export sheet over the list as the table shows it; a hint instead when it is empty.
     void openExportSheet();
+
+signals:
+    void rulePreviewRequested();
 
 private:
     TavrinAppController* m_controller;

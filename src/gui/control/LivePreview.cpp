@@ -21,6 +21,7 @@ LivePreview::LivePreview(RenameController& rename)
         &rename.session().settings(), &Settings::settingsChanged, this, &LivePreview::scheduleQuickPreview);
     connect(&rename.session(), &SessionController::currentSettingsApplied, this,
         &LivePreview::scheduleQuickPreview);
+    connect(&rename.session(), &SessionController::rulesChanged, this, &LivePreview::scheduleQuickPreview);
     // New items, and a new order that sequences follow, change the names too.
     connect(&rename.list(), &ListController::addFinished, this, &LivePreview::scheduleQuickPreview);
     connect(&rename.list(), &ListController::orderChanged, this, &LivePreview::scheduleQuickPreview);

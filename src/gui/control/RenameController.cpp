@@ -22,8 +22,22 @@ QString formattedCount(int count)
 }
 
 using Options = std::shared_ptr<const PropertyOptionValues>;
+using Rules = std::optional<RuleChain>;
+
+PreviewOutcome proposeNames(FileList& files, const OptionValues& options, const Rules& rules,
+    const std::atomic_bool& cancel, ProgressObserver* progress, int limit)
+{
+    Pipeline pipeline(files, options);
+    return rules ? pipeline.previewRule(*rules, cancel, progress, limit) : pipeline.preview(cancel, progress, limit);
+}
 
 } // namespace
+
+// A rule's steps run with the values they hold: the options of the tab are not checked.
+std::optional<RuleChain> RenameController::chainInUse() const
+{
+    return m_session.isRuleChainInUse() ? Rules(m_session.rules()) : std::nullopt;
+}
 
 RenameController::RenameController(ListController& list, SessionController& session, QObject* parent)
     : QObject(parent)
@@ -48,16 +62,19 @@ std::optional<ValidationFailure> RenameController::preview()
 {
     if (m_list.isExecuting() || m_list.shownCount() == 0)
         return std::nullopt;
-    if (std::optional<ValidationFailure> failure = normaliseOptions())
-        return failure;
+    const Rules rules = chainInUse();
+    if (!rules) {
+        if (std::optional<ValidationFailure> failure = normaliseOptions())
+            return failure;
+    }
     // A live preview still waiting would replace this full preview with a partial one.
     m_livePreview->disarm();
     const Options options = std::make_shared<const PropertyOptionValues>(m_session.settings());
     m_previewOutcome = PreviewOutcome();
     m_list.run(
-        { localized("GENERATINGPREVIEWPLEASEWAIT"), "doPreview", false },
-        [this, options](FileList& files, const std::atomic_bool& cancel, ProgressObserver* progress) {
-            m_previewOutcome = Pipeline(files, *options).preview(cancel, progress);
+        { localized("GENERATINGPREVIEWPLEASEWAIT"), rules ? "doPreviewRule" : "doPreview", false },
+        [this, options, rules](FileList& files, const std::atomic_bool& cancel, ProgressObserver* progress) {
+            m_previewOutcome = proposeNames(files, *options, rules, cancel, progress, -1);
         },
         [this] { finishPreview(); });
     return std::nullopt;
@@ -67,16 +84,17 @@ bool RenameController::quickPreview(int limit)
 {
     if (m_list.isExecuting() || m_list.shownCount() == 0)
         return false;
-    if (const std::optional<ValidationFailure> failure = normaliseOptions()) {
+    const Rules rules = chainInUse();
+    if (const std::optional<ValidationFailure> failure = rules ? std::nullopt : normaliseOptions()) {
         m_list.status().showMessage(failure->message());
         return false;
     }
     const Options options = std::make_shared<const PropertyOptionValues>(m_session.settings());
     m_previewOutcome = PreviewOutcome();
     return m_list.run(
-        { QString(), "doPreview", true },
-        [this, options, limit](FileList& files, const std::atomic_bool& cancel, ProgressObserver* progress) {
-            m_previewOutcome = Pipeline(files, *options).preview(cancel, progress, limit);
+        { QString(), rules ? "doPreviewRule" : "doPreview", true },
+        [this, options, rules, limit](FileList& files, const std::atomic_bool& cancel, ProgressObserver* progress) {
+            m_previewOutcome = proposeNames(files, *options, rules, cancel, progress, limit);
         },
         [this, limit] { finishQuickPreview(limit); });
 }

@@ -39,7 +39,7 @@ public:
     bool isNormalising() const { return m_isNormalising; }
 
     // Normalises the options of the selected tab and, when they can run, proposes the new
-    // names on the worker thread. Answers why the options cannot run, with nothing started.
+    // names on the worker thread; while the rule chain is in use, its steps propose them. Answers why the options cannot run, with nothing started.
     // Does nothing while executing or with an empty list.
     std::optional<ValidationFailure> preview();
     // The live preview of the first `limit` records (all when -1): like preview(), but an
@@ -66,6 +66,7 @@ signals:
 
 private:
     std::optional<ValidationFailure> normaliseOptions();
+    std::optional<RuleChain> chainInUse() const;
     void finishPreview();
     void finishQuickPreview(int limit);
     void finishApply();

@@ -97,9 +97,9 @@ void SessionController::restoreRules()
     const QVariant stored = m_userDefaults.value(QLatin1String(userdefaults::LastRule));
     if (!stored.isValid())
         return;
-    const std::optional<QVariant> rules = keyedUnarchive(stored.toByteArray());
-    if (rules && rules->typeId() == QMetaType::QVariantList) {
-        m_rules = rules->toList();
+    const std::optional<RuleChain> rules = chainFromVariant(keyedUnarchive(stored.toByteArray()).value_or(QVariant()));
+    if (rules) {
+        setRules(*rules);
         return;
     }
     qWarning("Error in applicationDidFinishLaunching : the saved rule chain cannot be read; it is dropped");
@@ -145,7 +145,7 @@ void SessionController::applicationShouldTerminate()
         m_userDefaults.remove(QLatin1String(userdefaults::LastProfile));
     else
         m_userDefaults.setValue(QLatin1String(userdefaults::LastProfile), m_currProfileFile);
-    m_userDefaults.setValue(QLatin1String(userdefaults::LastRule), keyedArchive(m_rules));
+    m_userDefaults.setValue(QLatin1String(userdefaults::LastRule), keyedArchive(chainToVariant(m_rules)));
     m_userDefaults.sync();
 }
 
@@ -198,6 +198,26 @@ void SessionController::loadDefaultProfile()
     setCurrProfileFile(QString());
     m_userDefaults.remove(QLatin1String(userdefaults::LastProfile));
     emit currentSettingsApplied();
+}
+
+void SessionController::whileLoading(const std::function<void()>& load)
+{
+    const ProfileLoading loading(m_isProfileLoading);
+    load();
+}
+
+void SessionController::setRules(const RuleChain& rules)
+{
+    m_rules = rules;
+    emit rulesChanged();
+}
+
+void SessionController::setRulesShown(bool shown)
+{
+    if (shown == m_rulesShown)
+        return;
+    m_rulesShown = shown;
+    emit rulesChanged();
 }
 
 void SessionController::setCurrProfileFile(const QString& path)

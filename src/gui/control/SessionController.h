@@ -2,11 +2,12 @@
 
 #include "core/profiles/Preferences.h"
 #include "core/profiles/ProfileFile.h"
+#include "core/rules/RuleStep.h"
 
 #include <QObject>
 #include <QSettings>
 #include <QString>
-#include <QVariantList>
+#include <functional>
 #include <optional>
 
 namespace tavrin {
@@ -87,15 +88,24 @@ public:
     void loadDefaultProfile();
     // True while a profile is applied: its option changes do not start live previews.
     bool isProfileLoading() const { return m_isProfileLoading; }
+    // Runs `load` with isProfileLoading() true, whatever way it ends: the option changes it
+    // makes are not the user's edits.
+    void whileLoading(const std::function<void()>& load);
 
     // The rule chain: its steps, in order.
-    const QVariantList& rules() const { return m_rules; }
-    void setRules(const QVariantList& rules) { m_rules = rules; }
+    const RuleChain& rules() const { return m_rules; }
+    void setRules(const RuleChain& rules);
+    // While the rules are shown (the drawer is open) and hold a step, previews run the chain
+    // in place of the selected tab.
+    bool isRuleChainInUse() const { return m_rulesShown && !m_rules.isEmpty(); }
+    void setRulesShown(bool shown);
 
 signals:
     void currProfileFileChanged(const QString& path);
     // A profile (or the empty one) replaced the options.
     void currentSettingsApplied();
+    // The steps changed, or whether previews run them.
+    void rulesChanged();
 
 private:
     void setCurrProfileFile(const QString& path);
@@ -108,7 +118,8 @@ private:
     Preferences m_preferences;
     QSettings m_userDefaults;
     QString m_currProfileFile;
-    QVariantList m_rules;
+    RuleChain m_rules;
+    bool m_rulesShown = false;
     bool m_isProfileLoading = false;
 };
 

@@ -52,11 +52,19 @@ QString chooseLogFile(QWidget* parent, const ChooserQuestion& question)
     return dialog.selectedFiles().constFirst();
 }
 
-QString chooseProfileToSave(QWidget* parent, const ChooserQuestion& question)
+constexpr char kRuleExtension[] = ".tnrule";
+
+QString ruleFilter()
 {
-    QString path = QFileDialog::getSaveFileName(parent, question.title, question.folder, profileFilter());
-    if (!path.isEmpty() && !path.endsWith(QLatin1String(kProfileExtension), Qt::CaseInsensitive))
-        path += QLatin1String(kProfileExtension);
+    return localized("RULEFILEFILTER") + QStringLiteral(" (*.tnrule)");
+}
+
+// The dialog asks before replacing a file of the chosen name.
+QString chooseFileToSave(QWidget* parent, const ChooserQuestion& question, const QString& filter, const char* extension)
+{
+    QString path = QFileDialog::getSaveFileName(parent, question.title, question.folder, filter);
+    if (!path.isEmpty() && !path.endsWith(QLatin1String(extension), Qt::CaseInsensitive))
+        path += QLatin1String(extension);
     return path;
 }
 
@@ -114,7 +122,11 @@ QString MessageBoxPrompter::choose(QWidget* parent, Choice choice, const Chooser
     case Choice::OpenProfile:
         return QFileDialog::getOpenFileName(parent, question.title, question.folder, profileFilter());
     case Choice::SaveProfile:
-        return chooseProfileToSave(parent, question);
+        return chooseFileToSave(parent, question, profileFilter(), kProfileExtension);
+    case Choice::OpenRule:
+        return QFileDialog::getOpenFileName(parent, question.title, question.folder, ruleFilter());
+    case Choice::SaveRule:
+        return chooseFileToSave(parent, question, ruleFilter(), kRuleExtension);
     case Choice::Folder:
         return QFileDialog::getExistingDirectory(parent, question.title, question.folder);
     case Choice::RenameFile:
