@@ -406,6 +406,17 @@ void Settings::resetID3Mask()
     setId3RenamingMask(mask);
 }
 
+void Settings::resetPhotoMask()
+{
+    QString mask;
+    for (const QString& token : std::as_const(m_photoMetaDataList)) {
+        if (m_isPhotoRenamingSeperator && !mask.isEmpty())
+            mask += m_photoRenamingSeperator;
+        mask += token;
+    }
+    setPhotoRenamingMask(mask);
+}
+
 bool Settings::isRadioIndexKey(const QString& key)
 {
     return radioGroup(key) != nullptr;

@@ -320,6 +320,8 @@ public:
     // separator or its switch on a user's behalf calls it; the mask can still be set on its
     // own afterwards.
     void resetID3Mask();
+    // The photo mask made of the chosen fields' tokens, joined by the separator when it is on.
+    void resetPhotoMask();
 
     // The index options that drive a radio group (e.g. "generalOptionIndex",
     // "fileFolderIndex"); setting one by key through chooseRadioOption also sets its mirrors.
