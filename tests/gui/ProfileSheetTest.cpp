@@ -1,5 +1,6 @@
 #include "GuiFixture.h"
 
+#include "core/profiles/ProfileFile.h"
 #include "core/profiles/SettingsRecord.h"
 #include "gui/app/DocumentCommands.h"
 #include "gui/app/WindowSheets.h"
@@ -147,6 +148,39 @@ TEST_F(ProfileSheetTest, AnOpenedProfileRebuildsTheMasksFromItsTokens)
     ASSERT_EQ(controller.session().setCurrentSettings(path).result, ProfileLoadResult::Loaded);
     EXPECT_EQ(settings().photoRenamingMask(), u"<A>_<B>"_s);
     EXPECT_EQ(settings().id3RenamingMask(), u"<Artist>"_s);
+}
+
+// With the preference on, the profile in use keeps the user's changes whenever another takes
+// its place; one the user deleted is not written again at quit.
+TEST_F(ProfileSheetTest, TheProfileInUseIsSavedAutomaticallyOnlyWhileItExists)
+{
+    Preferences preferences = controller.session().preferences();
+    preferences.automaticSaveCurrProfile = true;
+    controller.session().setPreferences(preferences);
+    ProfileSheetController* sheet = openSheet();
+    saveAs(sheet, u"a"_s);
+    saveAs(sheet, u"b"_s);
+    const QString a = tree.path(u"profiles/a.tnprofile"_s);
+    ASSERT_EQ(controller.session().setCurrentSettings(a).result, ProfileLoadResult::Loaded);
+
+    settings().setReplaceRemoveThis(u"kept in a"_s);
+    selectProfile(sheet, 1);
+    press(part<QPushButton>(sheet, u"loadProfileButton"_s));
+    Settings reread;
+    ASSERT_EQ(loadProfileFile(reread, a), ProfileLoadResult::Loaded);
+    EXPECT_EQ(reread.replaceRemoveThis(), u"kept in a"_s);
+
+    settings().setReplaceRemoveThis(u"kept in b"_s);
+    window.documentCommands()->loadDefaultProfile();
+    ASSERT_EQ(loadProfileFile(reread, tree.path(u"profiles/b.tnprofile"_s)), ProfileLoadResult::Loaded);
+    EXPECT_EQ(reread.replaceRemoveThis(), u"kept in b"_s);
+
+    ASSERT_EQ(controller.session().setCurrentSettings(a).result, ProfileLoadResult::Loaded);
+    sheet = openSheet();
+    selectProfile(sheet, 0);
+    press(part<QPushButton>(sheet, u"deleteProfileButton"_s));
+    controller.applicationShouldTerminate();
+    EXPECT_FALSE(tree.exists(u"profiles/a.tnprofile"_s));
 }
 
 } // namespace
