@@ -109,3 +109,26 @@ set(CPACK_SOURCE_GENERATOR "TXZ")
 set(CPACK_SOURCE_IGNORE_FILES "/[.]git/" "/build[^/]*/")
 
 include(CPack)
+
+# The manual pages come from the help texts tavrin-cli prints, in English, so the two never
+# disagree; the shell completions ask tavrin-cli for their words.
+set(tavrin_manuals)
+foreach(program tavrin-cli tavrin)
+  set(page "${PROJECT_BINARY_DIR}/man/${program}.1")
+  add_custom_command(OUTPUT "${page}"
+    COMMAND ${CMAKE_COMMAND} -E make_directory "${PROJECT_BINARY_DIR}/man"
+    COMMAND ${CMAKE_COMMAND} -E env LANGUAGE=en ASAN_OPTIONS=detect_leaks=0
+            sh -c "\"$1\" manpage ${program} > \"$2\"" sh $<TARGET_FILE:tavrin-cli> "${page}"
+    DEPENDS tavrin-cli
+    VERBATIM)
+  list(APPEND tavrin_manuals "${page}")
+  install(FILES "${page}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+endforeach()
+add_custom_target(tavrin-manuals ALL DEPENDS ${tavrin_manuals})
+
+set(TAVRIN_COMPLETION_DIR "${PROJECT_SOURCE_DIR}/resources/completion")
+install(FILES "${TAVRIN_COMPLETION_DIR}/tavrin-cli.bash"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME tavrin-cli)
+install(FILES "${TAVRIN_COMPLETION_DIR}/_tavrin-cli" DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions")
+install(FILES "${TAVRIN_COMPLETION_DIR}/tavrin-cli.fish"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d")

@@ -10,6 +10,7 @@ packages=(
   xvfb xauth
   desktop-file-utils appstream shared-mime-info libxml2-utils
   gcovr
+  man-db groff-base zsh fish
 )
 
 missing=()

@@ -1,7 +1,10 @@
 #include "cli/CommandSettings.h"
 
+#include "cli/Suggestion.h"
+#include "core/engine/ActionRegistry.h"
 #include "core/profiles/ProfileFile.h"
 #include "core/profiles/Settings.h"
+#include "core/profiles/Tabs.h"
 #include "core/rules/RuleFile.h"
 #include "core/text/LocalizedStrings.h"
 
@@ -9,7 +12,8 @@ namespace tavrin::cli {
 
 namespace {
 
-// The audio tab rebuilds its mask when its tokens or their separator change; so does --set.
+// The audio and photo tabs rebuild their masks when their tokens or separators change; so
+// does --set.
 bool rebuildsID3Mask(const QString& key)
 {
     return key == QLatin1String(Settings::id3RenamingTagsListKey)
@@ -17,13 +21,26 @@ bool rebuildsID3Mask(const QString& key)
         || key == QLatin1String(Settings::isID3RenamingSeperatorKey);
 }
 
+bool rebuildsPhotoMask(const QString& key)
+{
+    return key == QLatin1String(Settings::photoMetaDataListKey)
+        || key == QLatin1String(Settings::photoRenamingSeperatorKey)
+        || key == QLatin1String(Settings::isPhotoRenamingSeperatorKey);
+}
+
 bool assign(Settings& settings, const QString& key, const QString& value, QString& error)
 {
+    if (!Settings::hasOption(key)) {
+        error = localized("CLIUNKNOWNOPTIONKEY").arg(key) + didYouMean(key, Settings::optionKeys());
+        return false;
+    }
     if (!Settings::isRadioIndexKey(key)) {
         if (!settings.setOptionFromString(key, value, &error))
             return false;
         if (rebuildsID3Mask(key))
             settings.resetID3Mask();
+        if (rebuildsPhotoMask(key))
+            settings.resetPhotoMask();
         return true;
     }
     bool isNumber = false;
@@ -78,6 +95,10 @@ bool configureSettings(Settings& settings, const CommonOptions& common, const Re
     for (const auto& [key, value] : extra.assignments) {
         if (!assign(settings, key, value, error))
             return false;
+    }
+    if (!actionForTab(settings.selectedTab())) {
+        error = localized("CLITABNOTAVAILABLE").arg(tabName(settings.selectedTab()));
+        return false;
     }
     return true;
 }

@@ -1,5 +1,6 @@
 #include "cli/CommonOptions.h"
 
+#include "cli/Suggestion.h"
 #include "core/text/LocalizedStrings.h"
 
 namespace tavrin::cli {
@@ -46,7 +47,7 @@ ExtraOptions::Outcome takeCommonOption(
 {
     if (name == QLatin1String("--folders"))
         options.scan.folders = true;
-    else if (name == QLatin1String("--recursive"))
+    else if (name == QLatin1String("--recursive") || name == QLatin1String("-r"))
         options.scan.includeSubFolders = true;
     else if (name == QLatin1String("--json"))
         options.json = true;
@@ -65,8 +66,9 @@ bool takeOption(const QStringList& arguments, qsizetype& index, CommonOptions& o
     const OptionArgument option = splitOption(arguments.at(index));
     bool valueTaken = false;
     const TakeValue takeValue = [&]() -> std::optional<QString> {
+        const bool first = !valueTaken;
         valueTaken = true;
-        if (option.inlineValue)
+        if (option.inlineValue && first)
             return option.inlineValue;
         if (index + 1 < arguments.size())
             return arguments.at(++index);
@@ -75,8 +77,12 @@ bool takeOption(const QStringList& arguments, qsizetype& index, CommonOptions& o
     ExtraOptions::Outcome outcome = takeCommonOption(option.name, takeValue, options, error);
     if (outcome == ExtraOptions::Outcome::NotMine && extra)
         outcome = extra->takeOption(option.name, takeValue, error);
-    if (outcome == ExtraOptions::Outcome::NotMine)
-        error = localized("CLIUNKNOWNOPTION").arg(option.name);
+    if (outcome == ExtraOptions::Outcome::NotMine) {
+        const QStringList known = QStringList{QStringLiteral("--folders"), QStringLiteral("--recursive"),
+                                              QStringLiteral("--json"), QStringLiteral("--sort"), QStringLiteral("--help")}
+            + (extra ? extra->optionNames() : QStringList());
+        error = localized("CLIUNKNOWNOPTION").arg(option.name) + didYouMean(option.name, known);
+    }
     else if (outcome == ExtraOptions::Outcome::Taken && option.inlineValue && !valueTaken)
         error = localized("CLIUNEXPECTEDVALUE").arg(option.name);
     return error.isEmpty();

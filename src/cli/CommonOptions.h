@@ -21,7 +21,8 @@ struct CommonOptions {
 };
 
 // The value of the option being read: the text after "=" ("--sort=filename"), or else the
-// next argument; none when there is neither.
+// next argument; none when there is neither. An option with two values ("--replace A B")
+// asks twice: the second value is always the next argument.
 using TakeValue = std::function<std::optional<QString>()>;
 
 // The options a command adds to the shared ones (preview and apply: --tab, --set, --yes).
@@ -33,6 +34,8 @@ public:
     // Takes `name` ("--tab") when it is one of the command's options, reading its value
     // through `takeValue` when it has one; a bad value answers Bad with `error` set.
     virtual Outcome takeOption(const QString& name, const TakeValue& takeValue, QString& error) = 0;
+    // The options it takes, for the suggestion after a mistyped one.
+    virtual QStringList optionNames() const { return {}; }
 };
 
 // Reads the arguments that follow the command name. Options and PATHs may be mixed; "--"

@@ -50,14 +50,6 @@ const char* commandName(Mode mode)
     return mode == Mode::Preview ? "preview" : "apply";
 }
 
-bool tabIsAvailable(const Settings& settings, QString& error)
-{
-    if (actionForTab(settings.selectedTab()))
-        return true;
-    error = localized("CLITABNOTAVAILABLE").arg(tabName(settings.selectedTab()));
-    return false;
-}
-
 QString summaryLine(const FileList& list)
 {
     int proposals = 0;
@@ -88,6 +80,8 @@ void printRows(const FileList& list, const QStringList& namesBefore, QTextStream
     }
 }
 
+}  // namespace
+
 QStringList shownNames(const FileList& list)
 {
     QStringList names;
@@ -111,27 +105,21 @@ bool confirmApply(bool yes, QTextStream& err)
         && (reply.startsWith(QLatin1Char('y')) || reply.startsWith(localized("CLIYESLETTER").toLower()));
 }
 
-struct RunResult {
-    PreviewOutcome preview;
-    bool applyRequested = false;       // the apply command: its JSON always carries its keys
-    std::optional<ApplyOutcome> apply;  // set when something was applied
-};
-
-ApplyOutcome applyPreviewed(FileList& list, const OptionValues& values, const RenameOptions& extra,
+ApplyOutcome applyPreviewed(FileList& list, const OptionValues& values, bool continueWithoutLog,
                             QTextStream& err)
 {
     const QString logFolder = loadPreferences().defaultLogFolderPath;
-    const auto continueWithoutLog = [&] {
+    const auto askContinue = [&] {
         err << localized("LOGCREATEFAILED") << '\n';
-        if (!extra.continueWithoutLog)
+        if (!continueWithoutLog)
             err << localized("CLICONTINUEWITHOUTLOGHINT") << '\n';
-        return extra.continueWithoutLog;
+        return continueWithoutLog;
     };
     const InterruptGuard guard;
     interrupted.store(false);
     TerminalProgress progress;
     Pipeline pipeline(list, values);
-    return pipeline.applyRenames(logFolder, continueWithoutLog, interrupted, &progress);
+    return pipeline.applyRenames(logFolder, askContinue, interrupted, &progress);
 }
 
 void printResult(const LoadedList& loaded, const QStringList& namesBefore, const RunResult& result, bool json,
@@ -170,12 +158,53 @@ int exitStatus(const LoadedList& loaded, const RunResult& result)
     return kExitDone;
 }
 
+std::optional<int> previewPaths(const char* command, CommonOptions& common, const RenameOptions& extra, bool forApply,
+                                Settings& settings, LoadedList& loaded, PreviewOutcome& preview, QTextStream& err)
+{
+    QString error;
+    if (!configureSettings(settings, common, extra, error))
+        return reportUsageError(command, error, err);
+    // A rule's steps run with the values they hold, unchecked, as the window runs them.
+    std::optional<RuleChain> rules;
+    if (extra.rule) {
+        rules = openRuleOption(*extra.rule, error);
+        if (!rules)
+            return reportUsageError(command, error, err);
+    }
+    const int tab = settings.selectedTab();
+    if (const auto failure = rules ? std::nullopt : validateAndNormalise(settings, tab)) {
+        err << failure->title() << ": " << failure->message() << '\n';
+        return kExitBadUsage;
+    }
+
+    common.scan = ScanOptions{settings.isFolders(), settings.isIncludeSubFolders(), tab == tabs::FromFile};
+    loaded = loadList(common);
+    reportProblems(loaded, !common.json, err);
+    const PropertyOptionValues values(settings);
+    // Previewing in the order apply will work in keeps the rows of the report in step with
+    // the renames.
+    if (forApply)
+        Pipeline(loaded.list, values).arrangeForApply();
+    {
+        TerminalProgress progress;
+        const std::atomic_bool neverCancelled{false};
+        Pipeline pipeline(loaded.list, values);
+        preview = rules ? pipeline.previewRule(*rules, neverCancelled, &progress)
+                        : pipeline.preview(neverCancelled, &progress);
+    }
+    if (preview.conflicts > 0)
+        err << localized("CLICONFLICTS").arg(preview.conflicts) << '\n';
+    return std::nullopt;
+}
+
+namespace {
+
 bool parseArguments(Mode mode, const QStringList& arguments, CommonOptions& common, RenameOptions& extra,
                     QString& error)
 {
     if (!parseCommonOptions(arguments, common, error, &extra))
         return false;
-    if (mode == Mode::Apply && !common.help && !extra.yes && ::isatty(STDIN_FILENO) != 1) {
+    if (mode == Mode::Apply && !common.help && !extra.yes && !extra.dryRun && ::isatty(STDIN_FILENO) != 1) {
         error = localized("CLIAPPLYNEEDSYES");
         return false;
     }
@@ -189,57 +218,29 @@ int runRename(Mode mode, const QStringList& arguments, QTextStream& out, QTextSt
     QString error;
     if (!parseArguments(mode, arguments, common, extra, error))
         return reportUsageError(commandName(mode), error, err);
+    // "apply --dry-run" only shows what apply would do.
+    if (extra.dryRun)
+        mode = Mode::Preview;
     if (common.help) {
         out << localized(mode == Mode::Preview ? "CLIPREVIEWUSAGE" : "CLIAPPLYUSAGE") << "\n\n"
             << localized("CLIRULEPROFILEOPTIONS") << '\n';
         return kExitDone;
     }
     Settings settings;
-    if (!configureSettings(settings, common, extra, error))
-        return reportUsageError(commandName(mode), error, err);
-    // A rule's steps run with the values they hold, unchecked, as the window runs them.
-    std::optional<RuleChain> rules;
-    if (extra.rule) {
-        rules = openRuleOption(*extra.rule, error);
-        if (!rules)
-            return reportUsageError(commandName(mode), error, err);
-    } else if (!tabIsAvailable(settings, error)) {
-        return reportUsageError(commandName(mode), error, err);
-    }
-    const int tab = settings.selectedTab();
-    if (const auto failure = rules ? std::nullopt : validateAndNormalise(settings, tab)) {
-        err << localized(failure->titleKey.toLatin1().constData()) << ": "
-            << localized(failure->messageKey.toLatin1().constData()) << '\n';
-        return kExitBadUsage;
-    }
-
-    common.scan = ScanOptions{settings.isFolders(), settings.isIncludeSubFolders(), tab == tabs::FromFile};
-    LoadedList loaded = loadList(common);
-    reportProblems(loaded, !common.json, err);
-    const PropertyOptionValues values(settings);
-    // Previewing in the order apply will work in keeps the rows of the report in step with
-    // the renames.
-    if (mode == Mode::Apply)
-        Pipeline(loaded.list, values).arrangeForApply();
-
+    LoadedList loaded;
     RunResult result;
     result.applyRequested = mode == Mode::Apply;
-    {
-        TerminalProgress progress;
-        const std::atomic_bool neverCancelled{false};
-        Pipeline pipeline(loaded.list, values);
-        result.preview = rules ? pipeline.previewRule(*rules, neverCancelled, &progress)
-                               : pipeline.preview(neverCancelled, &progress);
-    }
-    if (result.preview.conflicts > 0)
-        err << localized("CLICONFLICTS").arg(result.preview.conflicts) << '\n';
+    if (const std::optional<int> refused = previewPaths(commandName(mode), common, extra, result.applyRequested,
+                                                        settings, loaded, result.preview, err))
+        return *refused;
+    const PropertyOptionValues values(settings);
     const QStringList namesBefore = shownNames(loaded.list);
     if (mode == Mode::Apply && result.preview.hasFilesForRenaming) {
         if (!confirmApply(extra.yes, err)) {
             err << localized("CLIAPPLYDECLINED") << '\n';
             return kExitDone;
         }
-        result.apply = applyPreviewed(loaded.list, values, extra, err);
+        result.apply = applyPreviewed(loaded.list, values, extra.continueWithoutLog, err);
     }
     printResult(loaded, namesBefore, result, common.json, out, err);
     return exitStatus(loaded, result);

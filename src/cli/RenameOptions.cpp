@@ -1,5 +1,7 @@
 #include "cli/RenameOptions.h"
 
+#include "cli/ActionFlags.h"
+#include "cli/Suggestion.h"
 #include "core/profiles/Tabs.h"
 #include "core/text/LocalizedStrings.h"
 
@@ -7,19 +9,21 @@ namespace tavrin::cli {
 
 namespace {
 
-ExtraOptions::Outcome takeTab(const TakeValue& takeValue, std::optional<int>& tab, QString& error)
+std::optional<int> takeTab(const TakeValue& takeValue, QString& error)
 {
     const std::optional<QString> value = takeValue();
     if (!value) {
         error = localized("CLIMISSINGVALUE").arg(QStringLiteral("--tab"));
-        return ExtraOptions::Outcome::Bad;
+        return std::nullopt;
     }
-    tab = tabFromName(*value);
+    const std::optional<int> tab = tabFromName(*value);
     if (!tab) {
-        error = localized("CLIUNKNOWNTAB").arg(*value);
-        return ExtraOptions::Outcome::Bad;
+        QStringList names;
+        for (int number = 0; number < tabs::Count; ++number)
+            names.append(tabName(number));
+        error = localized("CLIUNKNOWNTAB").arg(*value) + didYouMean(*value, names);
     }
-    return ExtraOptions::Outcome::Taken;
+    return tab;
 }
 
 ExtraOptions::Outcome takeAssignment(const TakeValue& takeValue, QList<QPair<QString, QString>>& assignments,
@@ -50,21 +54,57 @@ ExtraOptions::Outcome takeFile(const char* option, const TakeValue& takeValue, s
 
 ExtraOptions::Outcome RenameOptions::takeOption(const QString& name, const TakeValue& takeValue, QString& error)
 {
-    if (name == QLatin1String("--tab"))
-        return takeTab(takeValue, tab, error);
+    if (name == QLatin1String("--tab")) {
+        const std::optional<int> chosen = takeTab(takeValue, error);
+        return chosen && chooseTab(*chosen, name, error) ? Outcome::Taken : Outcome::Bad;
+    }
     if (name == QLatin1String("--set"))
         return takeAssignment(takeValue, assignments, error);
     if (name == QLatin1String("--rule"))
         return takeFile("--rule", takeValue, rule, error);
     if (name == QLatin1String("--profile"))
         return takeFile("--profile", takeValue, profile, error);
-    if (name == QLatin1String("--yes"))
+    if (isActionFlag(name))
+        return takeActionFlag(name, takeValue, error);
+    if (name == QLatin1String("--yes") || name == QLatin1String("-y"))
         yes = true;
     else if (name == QLatin1String("--continue-without-log"))
         continueWithoutLog = true;
+    else if (name == QLatin1String("--dry-run") || name == QLatin1String("-n"))
+        dryRun = true;
     else
         return Outcome::NotMine;
     return Outcome::Taken;
+}
+
+QStringList RenameOptions::optionNames() const
+{
+    return QStringList{QStringLiteral("--tab"), QStringLiteral("--set"), QStringLiteral("--yes"),
+                       QStringLiteral("--continue-without-log"), QStringLiteral("--dry-run"), QStringLiteral("--rule"),
+                       QStringLiteral("--profile")}
+        + actionFlagNames();
+}
+
+ExtraOptions::Outcome RenameOptions::takeActionFlag(const QString& name, const TakeValue& takeValue, QString& error)
+{
+    const std::optional<FlagMeaning> meaning = actionFlagMeaning(name, takeValue, error);
+    if (!meaning || !chooseTab(meaning->tab, name, error))
+        return Outcome::Bad;
+    assignments.append(meaning->assignments);
+    return Outcome::Taken;
+}
+
+// One run is one action: every option that names a tab must name the same one.
+bool RenameOptions::chooseTab(int chosen, const QString& by, QString& error)
+{
+    if (tab && *tab != chosen) {
+        error = localized("CLIFLAGSDIFFERENTTABS").arg(m_tabChosenBy, by);
+        return false;
+    }
+    if (!tab)
+        m_tabChosenBy = by;
+    tab = chosen;
+    return true;
 }
 
 }  // namespace tavrin::cli

@@ -20,6 +20,22 @@ tavrin_add_test(test_cli_dates SOURCES ${CMAKE_CURRENT_LIST_DIR}/DateCommandTest
 target_compile_definitions(test_cli_dates PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
 add_dependencies(test_cli_dates tavrin-cli)
 
+tavrin_add_test(test_cli_command_line SOURCES ${CMAKE_CURRENT_LIST_DIR}/CommandLineTest.cpp LIBS tavrin_cli_lib)
+target_compile_definitions(test_cli_command_line PRIVATE
+  TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>"
+  TAVRIN_MAN_DIR="${PROJECT_BINARY_DIR}/man"
+  TAVRIN_COMPLETION_DIR="${PROJECT_SOURCE_DIR}/resources/completion")
+add_dependencies(test_cli_command_line tavrin-cli tavrin-manuals)
+tavrin_add_test(test_cli_photo
+  SOURCES ${CMAKE_CURRENT_LIST_DIR}/PhotoCommandTest.cpp ${PROJECT_SOURCE_DIR}/tests/core/metadata/PhotoFiles.cpp
+  LIBS PkgConfig::EXIV2 Qt6::Gui)
+target_compile_definitions(test_cli_photo PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
+add_dependencies(test_cli_photo tavrin-cli)
+
+tavrin_add_test(test_cli_export_import SOURCES ${CMAKE_CURRENT_LIST_DIR}/ExportImportCommandTest.cpp)
+target_compile_definitions(test_cli_export_import PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
+add_dependencies(test_cli_export_import tavrin-cli)
+
 tavrin_add_test(test_cli_rules SOURCES ${CMAKE_CURRENT_LIST_DIR}/RuleCommandTest.cpp)
 target_compile_definitions(test_cli_rules PRIVATE TAVRIN_CLI_PATH="$<TARGET_FILE:tavrin-cli>")
 add_dependencies(test_cli_rules tavrin-cli)

@@ -2,6 +2,8 @@
 #include "core/text/LocalizedStrings.h"
 
 #include <QHeaderView>
+#include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
 
@@ -73,6 +75,22 @@ TEST_F(WindowPolishTest, StatusTextsAreShownInTheUsersLanguage)
     EXPECT_EQ(newNames(), QStringList{u"No Changes"_s});
     LocalizedStrings::setLanguage(u"de"_s);
     EXPECT_EQ(newName(0), u"Keine Änderungen"_s);
+}
+
+// A pattern's problem shows under the find field as it is typed, and only for a pattern.
+TEST_F(WindowPolishTest, APatternsProblemShowsAsItIsTyped)
+{
+    settings().setSelectedTab(tabs::ReplaceRemove);
+    auto* find = child<QLineEdit>(u"replaceRemoveThis"_s);
+    auto* problem = child<QLabel>(u"patternProblemLabel"_s);
+    QTest::keyClicks(find, u"IMG_(\\d+"_s);
+    EXPECT_TRUE(problem->isHidden()) << "plain text has no problem";
+    child<QCheckBox>(QString::fromLatin1(Settings::isReplaceRemoveRegularExpressionKey))->click();
+    EXPECT_TRUE(settings().isReplaceRemoveRegularExpression());
+    EXPECT_FALSE(problem->isHidden());
+    EXPECT_TRUE(problem->text().contains(u"parenthesis"_s)) << problem->text().toStdString();
+    QTest::keyClicks(find, u")"_s);
+    EXPECT_TRUE(problem->isHidden());
 }
 
 }  // namespace

@@ -23,3 +23,7 @@ tavrin_add_test(test_gui_audio_tab GUI
   SOURCES ${CMAKE_CURRENT_LIST_DIR}/AudioTabTest.cpp ${PROJECT_SOURCE_DIR}/tests/core/metadata/AudioFiles.cpp
   LIBS PkgConfig::TAGLIB)
 tavrin_add_test(test_gui_date_tabs GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/DateTabsTest.cpp LIBS PkgConfig::ICU)
+tavrin_add_test(test_gui_photo_tab GUI
+  SOURCES ${CMAKE_CURRENT_LIST_DIR}/PhotoTabTest.cpp ${PROJECT_SOURCE_DIR}/tests/core/metadata/PhotoFiles.cpp
+  LIBS PkgConfig::EXIV2)
+tavrin_add_test(test_gui_export GUI SOURCES ${CMAKE_CURRENT_LIST_DIR}/ExportSheetTest.cpp)

@@ -7,7 +7,9 @@
 #include "core/engine/actions/insertdelete.h"
 #include "core/engine/actions/pathcomponents.h"
 #include "core/engine/actions/prefixsuffix.h"
+#include "core/engine/actions/photo.h"
 #include "core/engine/actions/replaceremove.h"
+#include "core/metadata/MetaDataCatalogue.h"
 #include "core/profiles/Settings.h"
 #include "core/profiles/Tabs.h"
 #include "core/rules/RuleStep.h"
@@ -83,6 +85,17 @@ BoundAction bindID3Tags(const OptionValues& values)
     };
 }
 
+// Each run fills a catalogue of its own with the values of the photo at hand; the running
+// number starts at 1.
+BoundAction bindPhoto(const OptionValues& values)
+{
+    MetaDataCatalogue catalogue;
+    catalogue.InitializeMetaDataList();
+    return [options = PhotoOptions::from(values), catalogue, number = 1](FileSystemItem& item,
+                                                                         QString& error) mutable {
+        return renameByPhotoEXIFTags(item, options, catalogue, number, error);
+    };
+}
 
 // The options each kind of rule step stores, in the order rule files list them.
 using S = Settings;
@@ -139,6 +152,13 @@ constexpr const char* kGeneralStepKeys[] = {
 constexpr const char* kID3StepKeys[] = {
     S::isID3RenamingSeperatorKey, S::isID3RenamingColonReplaceKey, S::id3RenamingSeperatorKey,
     S::id3RenamingColonReplaceKey, S::id3RenamingMaskKey, S::id3ExtensionsKey, S::id3RenamingTagsListKey};
+constexpr const char* kPhotoStepKeys[] = {
+    S::isPhotoRenamingSeperatorKey, S::isPhotoRenamingColonReplaceKey, S::photoRenamingSeperatorKey,
+    S::photoRenamingColonReplaceKey, S::photoRenamingMaskKey, S::photoDatePart1Key, S::photoDateSeperator1Key,
+    S::photoDatePart2Key, S::photoDateSeperator2Key, S::photoDatePart3Key, S::photoTimePart1Key,
+    S::photoTimeSeperator1Key, S::photoTimePart2Key, S::photoTimeSeperator2Key, S::photoTimePart3Key,
+    S::photoPaddingMaskKey, S::photoExtensionsKey, S::photoMetaDataListKey, stepkeys::MetaDataList,
+    S::isPhotoResetSequenceOnEachFolderKey};
 constexpr const char* kPathComponentsStepKeys[] = {
     S::pathComponentsLevelNoKey, S::pathComponentsOptionsIndexKey, S::pathComponentsAtPositionNoKey,
     S::pathComponentsAtPositionDirectionKey, S::pathComponentsAtBeforeTextKey,
@@ -166,6 +186,7 @@ constexpr StepForm kPrefixSuffixForms[] = {
 constexpr StepForm kDateTimeForms[] = {{"DateTime", nullptr, nullptr, 0, kDateTimeStepKeys}};
 constexpr StepForm kGeneralForms[] = {{"General", nullptr, nullptr, 0, kGeneralStepKeys}};
 constexpr StepForm kID3Forms[] = {{"ID3Tag", nullptr, nullptr, 0, kID3StepKeys}};
+constexpr StepForm kPhotoForms[] = {{"Photo", nullptr, nullptr, 0, kPhotoStepKeys}};
 constexpr StepForm kPathComponentsForms[] = {{"Path Components", nullptr, nullptr, 0, kPathComponentsStepKeys}};
 
 // One row per tab; the actions of later tabs join this table as they are built, each with
@@ -180,6 +201,7 @@ const ActionEntry kActions[] = {
     {tabs::General, "General", bindGeneral, nullptr, kGeneralForms},
     {tabs::Audio, "ID3", bindID3Tags, nullptr, kID3Forms},
     {tabs::PathComponents, "PathComponents", bindPathComponents, nullptr, kPathComponentsForms},
+    {tabs::Photo, "Photo", bindPhoto, Settings::isPhotoResetSequenceOnEachFolderKey, kPhotoForms},
     {tabs::FromFile, "", nullptr, nullptr},
 };
 

@@ -4,8 +4,10 @@
 #include "core/engine/actions/alphanumeric.h"
 #include "core/engine/actions/general.h"
 #include "core/engine/actions/insertdelete.h"
+#include "core/engine/actions/patternreplace.h"
 #include "core/profiles/Settings.h"
 #include "core/profiles/Tabs.h"
+#include "core/text/LocalizedStrings.h"
 #include "core/text/StringUtilities.h"
 
 #include <QObject>
@@ -97,7 +99,33 @@ bool applies(const OptionValues& options, const RequiredInput& input)
     return !input.conditionKey || options.integer(input.conditionKey) == input.conditionValue;
 }
 
+// A regular expression is checked before any item is: its problem, named where it lies.
+std::optional<ValidationFailure> patternFailure(const OptionValues& options, int tab)
+{
+    if (tab != tabs::ReplaceRemove || !options.boolean(Settings::isReplaceRemoveRegularExpressionKey))
+        return std::nullopt;
+    const std::optional<PatternProblem> problem = patternProblem(options.text(Settings::replaceRemoveThisKey));
+    if (!problem)
+        return std::nullopt;
+    return ValidationFailure{QStringLiteral("REPLACEREMOVEINVALIDPATTERN"), QStringLiteral("PATTERNPROBLEM"),
+                             QString::fromLatin1(Settings::replaceRemoveThisKey),
+                             {problem->description, QString::number(problem->column)}};
+}
+
 }  // namespace
+
+QString ValidationFailure::title() const
+{
+    return LocalizedStrings::text(titleKey);
+}
+
+QString ValidationFailure::message() const
+{
+    QString text = LocalizedStrings::text(messageKey);
+    for (const QString& argument : messageArguments)
+        text = text.arg(argument);
+    return text;
+}
 
 std::optional<ValidationFailure> validateAndNormalise(QObject& settings, int tab)
 {
@@ -111,7 +139,7 @@ std::optional<ValidationFailure> validateAndNormalise(QObject& settings, int tab
                                      QString::fromLatin1(input.requiredKey)};
         }
     }
-    return std::nullopt;
+    return patternFailure(options, tab);
 }
 
 }  // namespace tavrin

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 class QObject;
@@ -13,6 +14,12 @@ struct ValidationFailure {
     QString titleKey;
     QString messageKey;
     QString focusOption;
+    // What the message names ("%1", "%2"...): a pattern's problem and its place, say.
+    QStringList messageArguments{};
+
+    // The title and the message in the user's language.
+    QString title() const;
+    QString message() const;
 };
 
 // Brings the options of a tab to a form the actions can run with (steps below 1 become

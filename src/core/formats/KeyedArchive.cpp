@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QTimeZone>
 #include <cmath>
+#include <cstdlib>
 #include <initializer_list>
 #include <vector>
 
@@ -46,9 +47,11 @@ private:
     std::optional<uint64_t> encode(const QVariant& value, int depth);
     std::optional<uint64_t> encodeList(const QVariantList& items, int depth);
     std::optional<uint64_t> encodeMap(const QVariantMap& entries, int depth);
+    std::optional<uint64_t> encodeObject(const ArchivedObject& object, int depth);
     uint64_t encodeDate(const QDateTime& date);
     uint64_t stringReference(const QString& text);
     uint64_t classReference(std::initializer_list<const char*> hierarchy);
+    uint64_t classReference(const QByteArrayList& hierarchy);
     uint64_t append(plist_t node);
 
     std::vector<Plist> m_objects;
@@ -115,6 +118,8 @@ std::optional<uint64_t> ArchiveWriter::encode(const QVariant& value, int depth)
     case QMetaType::QVariantMap:
         return encodeMap(value.toMap(), depth);
     default:
+        if (value.metaType() == QMetaType::fromType<ArchivedObject>())
+            return encodeObject(value.value<ArchivedObject>(), depth);
         return std::nullopt;
     }
 }
@@ -158,6 +163,20 @@ std::optional<uint64_t> ArchiveWriter::encodeMap(const QVariantMap& entries, int
     return reference;
 }
 
+std::optional<uint64_t> ArchiveWriter::encodeObject(const ArchivedObject& object, int depth)
+{
+    plist_t node = plist_new_dict();
+    const uint64_t reference = append(node);
+    for (auto entry = object.keys.cbegin(); entry != object.keys.cend(); ++entry) {
+        const std::optional<uint64_t> valueReference = encode(entry.value(), depth + 1);
+        if (!valueReference)
+            return std::nullopt;
+        plist_dict_set_item(node, entry.key().toUtf8().constData(), plist_new_uid(*valueReference));
+    }
+    plist_dict_set_item(node, "$class", plist_new_uid(classReference({object.className, "NSObject"})));
+    return reference;
+}
+
 uint64_t ArchiveWriter::encodeDate(const QDateTime& date)
 {
     const double seconds = double(date.toMSecsSinceEpoch() - kReferenceDateInUnixSeconds * 1000) / 1000.0;
@@ -179,12 +198,20 @@ uint64_t ArchiveWriter::stringReference(const QString& text)
 
 uint64_t ArchiveWriter::classReference(std::initializer_list<const char*> hierarchy)
 {
-    const QByteArray name(*hierarchy.begin());
+    QByteArrayList names;
+    for (const char* className : hierarchy)
+        names.append(className);
+    return classReference(names);
+}
+
+uint64_t ArchiveWriter::classReference(const QByteArrayList& hierarchy)
+{
+    const QByteArray& name = hierarchy.first();
     if (const auto found = m_classes.constFind(name); found != m_classes.cend())
         return *found;
     plist_t classes = plist_new_array();
-    for (const char* className : hierarchy)
-        plist_array_append_item(classes, plist_new_string(className));
+    for (const QByteArray& className : hierarchy)
+        plist_array_append_item(classes, plist_new_string(className.constData()));
     plist_t description = plist_new_dict();
     plist_dict_set_item(description, "$classes", classes);
     plist_dict_set_item(description, "$classname", plist_new_string(name.constData()));
@@ -222,7 +249,7 @@ std::optional<uint64_t> referenceValue(plist_t node)
 // object again at each use would take exponential time on a crafted archive.
 class ArchiveReader {
 public:
-    explicit ArchiveReader(plist_t objects);
+    ArchiveReader(plist_t objects, const QByteArrayList& objectClasses);
     std::optional<QVariant> decodeReference(plist_t reference, int depth);
 
 private:
@@ -233,16 +260,19 @@ private:
     std::optional<QVariant> decodeInstance(plist_t object, int depth);
     std::optional<QVariantList> decodeReferences(plist_t array, int depth);
     std::optional<QVariant> decodeDictionary(plist_t object, int depth);
+    std::optional<QVariant> decodeObjectKeys(plist_t object, const QByteArray& name, int depth);
     std::optional<QByteArray> className(plist_t object) const;
 
     plist_t m_objects;
+    QByteArrayList m_objectClasses;
     uint32_t m_count;
     std::vector<State> m_states;
     std::vector<QVariant> m_decoded;
 };
 
-ArchiveReader::ArchiveReader(plist_t objects)
+ArchiveReader::ArchiveReader(plist_t objects, const QByteArrayList& objectClasses)
     : m_objects(objects)
+    , m_objectClasses(objectClasses)
     , m_count(plist_array_get_size(objects))
     , m_states(m_count, State::Pending)
     , m_decoded(m_count)
@@ -337,7 +367,38 @@ std::optional<QVariant> ArchiveReader::decodeInstance(plist_t object, int depth)
         const qint64 milliseconds = std::llround(seconds * 1000.0) + kReferenceDateInUnixSeconds * 1000;
         return QVariant(QDateTime::fromMSecsSinceEpoch(milliseconds, QTimeZone::utc()));
     }
+    if (m_objectClasses.contains(*name))
+        return decodeObjectKeys(object, *name, depth);
     return std::nullopt;
+}
+
+std::optional<QVariant> ArchiveReader::decodeObjectKeys(plist_t object, const QByteArray& name, int depth)
+{
+    ArchivedObject decoded{name, {}};
+    plist_dict_iter iterator = nullptr;
+    plist_dict_new_iter(object, &iterator);
+    bool valid = true;
+    for (;;) {
+        char* key = nullptr;
+        plist_t value = nullptr;
+        plist_dict_next_item(object, iterator, &key, &value);
+        if (!key)
+            break;
+        const QString keyText = QString::fromUtf8(key);
+        std::free(key);
+        if (keyText == QLatin1String("$class"))
+            continue;
+        const std::optional<QVariant> item = decodeReference(value, depth + 1);
+        if (!item) {
+            valid = false;
+            break;
+        }
+        decoded.keys.insert(keyText, *item);
+    }
+    std::free(iterator);
+    if (!valid)
+        return std::nullopt;
+    return QVariant::fromValue(decoded);
 }
 
 std::optional<QVariantList> ArchiveReader::decodeReferences(plist_t array, int depth)
@@ -392,7 +453,7 @@ QByteArray keyedArchive(const QVariant& root)
     return ArchiveWriter().archive(root);
 }
 
-std::optional<QVariant> keyedUnarchive(const QByteArray& data)
+std::optional<QVariant> keyedUnarchive(const QByteArray& data, const QByteArrayList& objectClasses)
 {
     const Plist archive = parsePlist(data);
     const plist_t parsed = archive.get();
@@ -404,7 +465,7 @@ std::optional<QVariant> keyedUnarchive(const QByteArray& data)
     const plist_t objects = plist_dict_get_item(parsed, "$objects");
     if (!top || plist_get_node_type(top) != PLIST_DICT || !objects || plist_get_node_type(objects) != PLIST_ARRAY)
         return std::nullopt;
-    return ArchiveReader(objects).decodeReference(plist_dict_get_item(top, "root"), 0);
+    return ArchiveReader(objects, objectClasses).decodeReference(plist_dict_get_item(top, "root"), 0);
 }
 
 }  // namespace tavrin

@@ -131,6 +131,14 @@ bool FileSystemItem::isPathExists() const
     return ::stat(QFile::encodeName(m_fullPath).constData(), &info) == 0 && S_ISDIR(info.st_mode);
 }
 
+void FileSystemItem::markMissingAs(ItemType type)
+{
+    m_itemType = type == ItemType::Folder ? ItemType::Folder : ItemType::File;
+    m_isFolder = m_itemType == ItemType::Folder;
+    m_isFile = !m_isFolder;
+    m_isAlias = false;
+}
+
 QString getDisplayFilePath(const QString& path)
 {
     return displayName(path);

@@ -66,6 +66,9 @@ public:
     // For a file record: something exists at fullPath. For any other record: a folder does.
     bool isPathExists() const;
 
+    // For an imported path that no longer exists: the kind the list says it was, not an alias.
+    void markMissingAs(ItemType type);
+
     // A symbolic link, or a path that does not resolve to itself. Writes whether the path
     // itself is a directory.
     static bool isPathAlias(const QString& path, bool* isFolder);

@@ -240,6 +240,9 @@ class Settings : public QObject {
     TAVRIN_INT_OPTION(generalOptionsIndex, setGeneralOptionsIndex)
     TAVRIN_TEXT_OPTION(renameFile, setRenameFile)
 
+    // Options this platform adds to the record, after every key the other platform knows
+    TAVRIN_BOOL_OPTION(isReplaceRemoveRegularExpression, setIsReplaceRemoveRegularExpression)
+
 public:
     // Holds back settingsChanged() while alive and sends it once at the end when anything
     // changed, so that applying a whole profile re-arms the live preview once, not once per option.

@@ -3,6 +3,7 @@
 #include "core/formats/VersionStamp.h"
 #include "core/profiles/Settings.h"
 #include "core/formats/KeyedArchive.h"
+#include "core/metadata/MetaDataCatalogue.h"
 #include "core/text/LocalizedStrings.h"
 
 #include <QDate>
@@ -64,6 +65,31 @@ std::optional<QStringList> unarchiveTexts(const QByteArray& archive)
     return texts;
 }
 
+bool isFieldList(const QString& key)
+{
+    return key == QLatin1String(Settings::photoMetaDataListKey);
+}
+
+// The photo fields are kept as archived fields; a list of their tokens, as earlier versions
+// kept it, is read too.
+std::optional<QStringList> unarchiveList(const QString& key, const QByteArray& archive)
+{
+    if (isFieldList(key)) {
+        if (const auto fields = unarchiveMetaDataFields(archive))
+            return MetaDataField::getTagsList(*fields);
+    }
+    return unarchiveTexts(archive);
+}
+
+QByteArray archivedList(const QString& key, const QStringList& texts)
+{
+    if (!isFieldList(key))
+        return keyedArchive(texts);
+    MetaDataCatalogue catalogue;
+    catalogue.InitializeMetaDataList();
+    return archiveMetaDataFields(catalogue.fieldsForTags(texts));
+}
+
 bool refuse(const QString& key, QString* error)
 {
     if (error)
@@ -77,7 +103,7 @@ bool applyValue(Settings& settings, const QString& key, const QVariant& value, Q
     const int type = property.metaType().id();
     if (value.typeId() == QMetaType::QByteArray) {
         const std::optional<QStringList> texts
-            = type == QMetaType::QStringList ? unarchiveTexts(value.toByteArray()) : std::nullopt;
+            = type == QMetaType::QStringList ? unarchiveList(key, value.toByteArray()) : std::nullopt;
         if (!texts)
             return refuse(key, error);
         property.write(&settings, *texts);
@@ -109,7 +135,7 @@ QVariantMap getCurrentSettings(const Settings& settings)
         const QMetaProperty property = optionProperty(key);
         switch (property.metaType().id()) {
         case QMetaType::QStringList:
-            record.insert(key, keyedArchive(property.read(&settings)));
+            record.insert(key, archivedList(key, property.read(&settings).toStringList()));
             break;
         case QMetaType::QDateTime:
             record.insert(key, dateDescription(property.read(&settings).toDateTime()));

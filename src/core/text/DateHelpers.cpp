@@ -66,9 +66,10 @@ icu::SimpleDateFormat* formatterInDefaultZone(const QString& pattern, const icu:
     return format;
 }
 
-std::optional<UDate> parseWhole(const QString& text, const QString& pattern)
+std::optional<UDate> parseWhole(const QString& text, const QString& pattern,
+                                const icu::Locale& locale = icu::Locale::getDefault())
 {
-    icu::SimpleDateFormat* format = formatterInDefaultZone(pattern, icu::Locale::getDefault());
+    icu::SimpleDateFormat* format = formatterInDefaultZone(pattern, locale);
     if (!format || text.isEmpty())
         return std::nullopt;
     const icu::UnicodeString unicode = toUnicode(text);
@@ -134,6 +135,14 @@ std::optional<QString> stringToFormattedDate(const QString& text)
     if (!date)
         return std::nullopt;
     return formatUDate(*date, descriptionPattern, descriptionLocale());
+}
+
+std::optional<QDateTime> dateFromDescription(const QString& description)
+{
+    const std::optional<UDate> date = parseWhole(description, descriptionPattern, descriptionLocale());
+    if (!date)
+        return std::nullopt;
+    return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(*date));
 }
 
 QString formatDate(const QDateTime& moment, const QString& unicodePattern)

@@ -20,6 +20,9 @@ std::optional<QDateTime> dateFromString(const QString& text);
 // that does not parse.
 std::optional<QString> stringToFormattedDate(const QString& text);
 
+// The moment a description made by stringToFormattedDate stands for.
+std::optional<QDateTime> dateFromDescription(const QString& description);
+
 // The moment formatted with a Unicode date pattern in the default locale and time zone;
 // the empty string for an invalid moment or a pattern that cannot be used.
 QString formatDate(const QDateTime& moment, const QString& unicodePattern);

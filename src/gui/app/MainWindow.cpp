@@ -13,6 +13,7 @@
 #include "gui/engine/RenamePanel.h"
 #include "gui/list/FileTableModel.h"
 #include "gui/list/FileTableView.h"
+#include "gui/ui/ThumbnailPreview.h"
 #include "gui/list/ListModeSelector.h"
 #include "gui/log/UndoSheetController.h"
 #include "gui/rules/RulesCommands.h"
@@ -139,6 +140,7 @@ void MainWindow::connectActions()
         m_actions->defaultProfile(), &QAction::triggered, m_documents, &DocumentCommands::loadDefaultProfile);
     connect(m_actions->showProfiles(), &QAction::triggered, m_sheets, &WindowSheets::openProfilesSheet);
     connect(m_actions->preferences(), &QAction::triggered, m_sheets, &WindowSheets::openPreferences);
+    connect(m_actions->exportList(), &QAction::triggered, m_sheets, &WindowSheets::openExportSheet);
     connect(m_actions->livePreview(), &QAction::triggered, this, &MainWindow::toggleLivePreview);
     connect(m_actions->help(), &QAction::triggered, this,
         [this] { m_sheets->showHelpPage(QStringLiteral("main.html")); });
@@ -162,6 +164,7 @@ QWidget* MainWindow::createCentralArea()
     m_table->setObjectName(QStringLiteral("fileTable"));
     m_table->setModel(m_model);
     setDefaultColumnWidths();
+    new ThumbnailPreview(m_table);
 
     m_actionArea = new QWidget;
     m_actionArea->setObjectName(QStringLiteral("actionArea"));

@@ -90,6 +90,7 @@ void WindowActions::createListActions()
     m_undo = makeAction(w,
         { "undoBatchAction", "UNDOBATCH", themeIcon("edit-undo", QStyle::SP_ArrowBack, w),
             QKeySequence::Undo });
+    m_exportList = makeAction(w, { "exportListAction", "EXPORTLIST", themeIcon("document-export"), QKeySequence() });
     m_livePreview = makeAction(w,
         { "livePreviewAction", "LIVEPREVIEWACTION", QIcon(QStringLiteral(":/icons/LivePreviewOff.svg")),
             QKeySequence(Qt::CTRL | Qt::Key_L) });
@@ -136,6 +137,8 @@ void WindowActions::fillMenuBar(QMenuBar* menuBar, const RenameMenuActions& rena
     QMenu* file = menuBar->addMenu(localized("FILEMENU"));
     file->addActions({ m_addFiles, m_addFolders });
     file->addSeparator();
+    file->addAction(m_exportList);
+    file->addSeparator();
     file->addActions({ m_openProfile, m_saveProfile, m_saveProfileAs, m_defaultProfile, m_showProfiles });
     file->addSeparator();
     file->addAction(m_preferences);
@@ -169,7 +172,7 @@ void WindowActions::fillToolBar(QToolBar* toolBar) const
 
 void WindowActions::setExecuting(bool executing)
 {
-    for (QAction* action : { m_addFiles, m_addFolders, m_remove, m_clear, m_undo, m_pasteItems, m_selectAll,
+    for (QAction* action : { m_addFiles, m_addFolders, m_remove, m_clear, m_undo, m_exportList, m_pasteItems, m_selectAll,
              m_openProfile, m_defaultProfile, m_showProfiles })
         action->setEnabled(!executing);
     m_cancel->setEnabled(executing);

@@ -32,6 +32,7 @@ public:
     QAction* moveDown() const { return m_moveDown; }
     QAction* cancel() const { return m_cancel; }
     QAction* undo() const { return m_undo; }
+    QAction* exportList() const { return m_exportList; }
     QAction* quit() const { return m_quit; }
     QAction* pasteItems() const { return m_pasteItems; }
     QAction* selectAll() const { return m_selectAll; }
@@ -70,6 +71,7 @@ private:
     QAction* m_moveDown = nullptr;
     QAction* m_cancel = nullptr;
     QAction* m_undo = nullptr;
+    QAction* m_exportList = nullptr;
     QAction* m_quit = nullptr;
     QAction* m_pasteItems = nullptr;
     QAction* m_selectAll = nullptr;

@@ -5,6 +5,7 @@
 #include "gui/app/TavrinAppController.h"
 #include "gui/control/LivePreview.h"
 #include "gui/engine/LivePreviewSheet.h"
+#include "gui/io/ExportSheetController.h"
 #include "gui/list/PasteboardItemsSheet.h"
 #include "gui/rules/RulesSheet.h"
 #include "gui/log/HelpPage.h"
@@ -12,6 +13,7 @@
 #include "gui/ui/Prompter.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QMessageBox>
 
 namespace tavrin {
@@ -108,6 +110,20 @@ void WindowSheets::showAbout()
 {
     QMessageBox::about(
         m_window, localized("APPTITLE"), localized("ABOUTTEXT").arg(QApplication::applicationVersion()));
+}
+
+void WindowSheets::openExportSheet()
+{
+    ListController& list = m_controller->list();
+    if (list.shownCount() == 0) {
+        m_prompter->inform(m_window, {localized("EXPORTFILESTITLE"), localized("NOITEMSTOEXPORT")});
+        return;
+    }
+    auto* sheet = new ExportSheetController([&list]() -> const std::vector<FileSystemItem>& { return list.shownItems(); },
+                                            m_prompter, QDir::homePath(), m_window);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    connect(sheet, &ExportSheetController::helpRequested, this, [this] { showHelpPage(QStringLiteral("export.html")); });
+    sheet->open();
 }
 
 } // namespace tavrin

@@ -34,6 +34,8 @@ public:
     // Opens a help page of the current language in the desktop's browser.
     void showHelpPage(const QString& page);
     void showAbout();
+    // The export sheet over the list as the table shows it; a hint instead when it is empty.
+    void openExportSheet();
 
 signals:
     void rulePreviewRequested();

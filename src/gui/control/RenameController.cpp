@@ -86,7 +86,7 @@ bool RenameController::quickPreview(int limit)
         return false;
     const Rules rules = chainInUse();
     if (const std::optional<ValidationFailure> failure = rules ? std::nullopt : normaliseOptions()) {
-        m_list.status().showMessage(LocalizedStrings::text(failure->messageKey));
+        m_list.status().showMessage(failure->message());
         return false;
     }
     const Options options = std::make_shared<const PropertyOptionValues>(m_session.settings());

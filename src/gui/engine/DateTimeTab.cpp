@@ -26,14 +26,6 @@ namespace {
 
 constexpr int kShortTextWidth = 64;
 
-QGridLayout* groupGrid(QGroupBox* group)
-{
-    auto* grid = new QGridLayout(group);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
-    return grid;
-}
-
 QHBoxLayout* rowOf(const QList<QWidget*>& widgets)
 {
     auto* row = new QHBoxLayout;
@@ -101,7 +93,7 @@ QLayout* DateTimeTab::makeSourceRow()
 QGroupBox* DateTimeTab::makeFormatGroup()
 {
     auto* group = new QGroupBox(localized("DATETIMEFORMATGROUP"));
-    QGridLayout* grid = groupGrid(group);
+    QGridLayout* grid = OptionBinder::groupGrid(group);
     const auto addRow = [&](int row, QWidget* label, const QList<QWidget*>& inputs, const char* toolTipKey) {
         OptionBinder::describeRow(QList<QWidget*> { label } + inputs, localized(toolTipKey));
         grid->addWidget(label, row, 0);
@@ -146,7 +138,7 @@ QGroupBox* DateTimeTab::makeFormatGroup()
 QGroupBox* DateTimeTab::makePlaceGroup()
 {
     auto* group = new QGroupBox(localized("PLACEGROUP"));
-    QGridLayout* grid = groupGrid(group);
+    QGridLayout* grid = OptionBinder::groupGrid(group);
     m_places = std::make_unique<PlaceChoices>(*m_binder,
         PlaceChoices::Group { { Settings::dateTimeOptionsIndexKey, Settings::dateTimeAtPositionNoKey,
                                   Settings::dateTimeAtPositionDirectionKey, Settings::dateTimeAtBeforeTextKey,

@@ -26,14 +26,6 @@ using Kind = TextFieldFormatter::Kind;
 constexpr int kInsert = 0;
 constexpr int kDelete = 1;
 
-QGridLayout* groupGrid(QGroupBox* group)
-{
-    auto* grid = new QGridLayout(group);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
-    return grid;
-}
-
 } // namespace
 
 InsertDeleteTab::InsertDeleteTab(Settings& settings, QWidget* parent)
@@ -81,7 +73,7 @@ QGroupBox* InsertDeleteTab::makeInsertGroup()
 {
     m_insertGroup = new QGroupBox(localized("INSERTGROUP"));
     m_insertGroup->setObjectName(QStringLiteral("insertGroup"));
-    QGridLayout* grid = groupGrid(m_insertGroup);
+    QGridLayout* grid = OptionBinder::groupGrid(m_insertGroup);
 
     auto* textLabel = new QLabel(localized("INSERTTEXT"));
     QLineEdit* text = m_binder->textField({ Settings::insertDeleteInsertKey, "INSERTTEXTPLACEHOLDER" });
@@ -107,7 +99,7 @@ QGroupBox* InsertDeleteTab::makeDeleteGroup()
 {
     m_deleteGroup = new QGroupBox(localized("DELETEGROUP"));
     m_deleteGroup->setObjectName(QStringLiteral("deleteGroup"));
-    QGridLayout* grid = groupGrid(m_deleteGroup);
+    QGridLayout* grid = OptionBinder::groupGrid(m_deleteGroup);
 
     auto* countLabel = new QLabel(localized("DELETENUMBER"));
     QLineEdit* count

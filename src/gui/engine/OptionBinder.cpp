@@ -6,6 +6,8 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
 #include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
@@ -142,6 +144,14 @@ QRadioButton* OptionBinder::radioButton(
     button->setObjectName(objectName);
     group->addButton(button, id);
     return button;
+}
+
+QGridLayout* OptionBinder::groupGrid(QGroupBox* group)
+{
+    auto* grid = new QGridLayout(group);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(6);
+    return grid;
 }
 
 void OptionBinder::describeRow(const QList<QWidget*>& widgets, const QString& toolTip)

@@ -12,6 +12,8 @@
 class QButtonGroup;
 class QCheckBox;
 class QComboBox;
+class QGridLayout;
+class QGroupBox;
 class QDateTimeEdit;
 class QLineEdit;
 class QRadioButton;
@@ -83,6 +85,8 @@ public:
     // Gives every widget of a row the row's tooltip, and each input the name a screen
     // reader announces for it: the text of the label, radio button or check box before it.
     static void describeRow(const QList<QWidget*>& widgets, const QString& toolTip);
+    // The grid of a tab's group box, spaced as every tab spaces its rows.
+    static QGridLayout* groupGrid(QGroupBox* group);
 
     // The input of an option, or null when this binder made none.
     QWidget* field(const QString& optionKey) const;

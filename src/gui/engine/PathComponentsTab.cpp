@@ -17,14 +17,6 @@ namespace {
 
 using Kind = TextFieldFormatter::Kind;
 
-QGridLayout* groupGrid(QGroupBox* group)
-{
-    auto* grid = new QGridLayout(group);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
-    return grid;
-}
-
 } // namespace
 
 PathComponentsTab::PathComponentsTab(Settings& settings, QWidget* parent)
@@ -52,7 +44,7 @@ QWidget* PathComponentsTab::fieldForOption(const QString& optionKey) const
 QGroupBox* PathComponentsTab::makeFoldersGroup()
 {
     auto* group = new QGroupBox(localized("PATHFOLDERSGROUP"));
-    QGridLayout* grid = groupGrid(group);
+    QGridLayout* grid = OptionBinder::groupGrid(group);
     const struct {
         const char* labelKey;
         QWidget* input;
@@ -79,7 +71,7 @@ QGroupBox* PathComponentsTab::makeFoldersGroup()
 QGroupBox* PathComponentsTab::makePlaceGroup()
 {
     auto* group = new QGroupBox(localized("PLACEGROUP"));
-    QGridLayout* grid = groupGrid(group);
+    QGridLayout* grid = OptionBinder::groupGrid(group);
     m_places = std::make_unique<PlaceChoices>(*m_binder,
         PlaceChoices::Group { { Settings::pathComponentsOptionsIndexKey, Settings::pathComponentsAtPositionNoKey,
                                   Settings::pathComponentsAtPositionDirectionKey,

@@ -27,14 +27,6 @@ namespace {
 constexpr int kText = 0;
 constexpr int kDate = 1;
 
-QGridLayout* groupGrid(QGroupBox* group)
-{
-    auto* grid = new QGridLayout(group);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
-    return grid;
-}
-
 // A label and the inputs after it, one row of the grid.
 void addRow(QGridLayout* grid, int row, QWidget* label, const QList<QWidget*>& inputs, const char* toolTipKey)
 {
@@ -95,7 +87,7 @@ QGroupBox* PrefixSuffixTab::makeTextGroup()
 {
     m_textGroup = new QGroupBox(localized("PREFIXSUFFIXTEXTGROUP"));
     m_textGroup->setObjectName(QStringLiteral("prefixSuffixTextGroup"));
-    QGridLayout* grid = groupGrid(m_textGroup);
+    QGridLayout* grid = OptionBinder::groupGrid(m_textGroup);
     addRow(grid, 0, new QLabel(localized("PREFIXSUFFIXPREFIX")), { m_binder->textField({ Settings::prefixSuffixPrefixKey }) },
         "PREFIXSUFFIXPREFIXTIP");
     addRow(grid, 1, new QLabel(localized("PREFIXSUFFIXSUFFIX")), { m_binder->textField({ Settings::prefixSuffixSuffixKey }) },
@@ -109,7 +101,7 @@ QGroupBox* PrefixSuffixTab::makeDateGroup()
 {
     m_dateGroup = new QGroupBox(localized("PREFIXSUFFIXDATEGROUP"));
     m_dateGroup->setObjectName(QStringLiteral("prefixSuffixDateGroup"));
-    QGridLayout* grid = groupGrid(m_dateGroup);
+    QGridLayout* grid = OptionBinder::groupGrid(m_dateGroup);
     QWidget* before = m_binder->checkBox({ Settings::isPrefixSuffixDatePrefixKey, "PREFIXSUFFIXBEFORENAME" });
     QWidget* after = m_binder->checkBox({ Settings::isPrefixSuffixDateSuffixKey, "PREFIXSUFFIXAFTERNAME" });
     addRow(grid, 0, new QLabel(localized("PREFIXSUFFIXWHICHDATE")),

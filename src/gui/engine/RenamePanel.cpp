@@ -9,12 +9,14 @@
 #include "gui/engine/ActionTabs.h"
 #include "gui/engine/AudioTab.h"
 #include "gui/engine/DateTimeTab.h"
+#include "gui/engine/PhotoTab.h"
 #include "gui/engine/GeneralTab.h"
 #include "gui/engine/InsertDeleteTab.h"
 #include "gui/engine/PathComponentsTab.h"
 #include "gui/engine/PrefixSuffixTab.h"
 #include "gui/engine/ReplaceRemoveTab.h"
 #include "gui/engine/SequenceTab.h"
+#include "gui/io/FromFileTab.h"
 #include "gui/ui/AttachedWindow.h"
 #include "gui/ui/Prompter.h"
 
@@ -88,7 +90,10 @@ RenamePanel::RenamePanel(
     m_tabs->addActionTab(new DateTimeTab(settings), tabs::DateTime, localized("DATETIMETAB"));
     m_tabs->addActionTab(new GeneralTab(settings), tabs::General, localized("GENERALTAB"));
     m_tabs->addActionTab(new AudioTab(settings), tabs::Audio, localized("AUDIOTAB"));
+    m_tabs->addActionTab(new PhotoTab(settings), tabs::Photo, localized("PHOTOTAB"));
     m_tabs->addActionTab(new PathComponentsTab(settings), tabs::PathComponents, localized("PATHCOMPONENTSTAB"));
+    m_fromFileTab = new FromFileTab(*rename);
+    m_tabs->addActionTab(m_fromFileTab, tabs::FromFile, localized("FROMFILETAB"));
     m_tabs->showSelectedTab();
     createActions();
 
@@ -103,6 +108,12 @@ RenamePanel::RenamePanel(
 }
 
 RenamePanel::~RenamePanel() = default;
+
+void RenamePanel::setPrompter(Prompter* prompter)
+{
+    m_prompter = prompter;
+    m_fromFileTab->setPrompter(prompter);
+}
 
 void RenamePanel::createActions()
 {
@@ -155,7 +166,7 @@ void RenamePanel::actionPreview()
     m_attached->hide();
     if (const std::optional<ValidationFailure> failure = m_rename->preview()) {
         m_prompter->warn(window(),
-            { LocalizedStrings::text(failure->titleKey), LocalizedStrings::text(failure->messageKey) });
+            { failure->title(), failure->message() });
         focusField(failure->focusOption);
     }
 }

@@ -9,6 +9,7 @@ namespace tavrin {
 
 class ActionTabs;
 class AttachedWindow;
+class FromFileTab;
 class Prompter;
 class RenameController;
 
@@ -27,7 +28,7 @@ public:
     QAction* previewAction() const { return m_previewAction; }
     QAction* applyAction() const { return m_applyAction; }
     QPushButton* previewButton() const { return m_previewButton; }
-    void setPrompter(Prompter* prompter) { m_prompter = prompter; }
+    void setPrompter(Prompter* prompter);
 
     // The Preview button: a hint when the list is empty, an alert when an input is
     // missing, else a preview on the worker thread.
@@ -48,6 +49,7 @@ private:
     QAction* m_previewAction = nullptr;
     QAction* m_applyAction = nullptr;
     QPushButton* m_previewButton = nullptr;
+    FromFileTab* m_fromFileTab = nullptr;
 };
 
 } // namespace tavrin

@@ -1,5 +1,6 @@
 #include "gui/engine/ReplaceRemoveTab.h"
 
+#include "core/engine/actions/patternreplace.h"
 #include "core/engine/actions/replaceremove.h"
 #include "core/profiles/Settings.h"
 #include "core/text/LocalizedStrings.h"
@@ -27,14 +28,6 @@ constexpr int kReplace = 0;
 constexpr int kRemove = 1;
 constexpr int kRemoveCharacters = 2;
 constexpr int kNoMode = -1;
-
-QGridLayout* groupGrid(QGroupBox* group)
-{
-    auto* grid = new QGridLayout(group);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
-    return grid;
-}
 
 // The mode as the action sees it, which asks its switches in this order.
 int chosenMode(const Settings& settings)
@@ -90,7 +83,7 @@ QLayout* ReplaceRemoveTab::makeModeRow()
 QGroupBox* ReplaceRemoveTab::makeTextGroup()
 {
     auto* group = new QGroupBox(localized("REPLACETEXTGROUP"));
-    QGridLayout* grid = groupGrid(group);
+    QGridLayout* grid = OptionBinder::groupGrid(group);
 
     m_findLabel = new QLabel;
     QLineEdit* find = m_binder->textField({ Settings::replaceRemoveThisKey });
@@ -109,16 +102,28 @@ QGroupBox* ReplaceRemoveTab::makeTextGroup()
     QCheckBox* matchCase = m_binder->checkBox({ Settings::isReplaceRemoveCaseSensitiveKey, "REPLACECASE" });
     matchCase->setToolTip(localized("REPLACECASETIP"));
     grid->addWidget(matchCase, 2, 1);
+    QCheckBox* pattern
+        = m_binder->checkBox({ Settings::isReplaceRemoveRegularExpressionKey, "REPLACEREGULAREXPRESSION" });
+    pattern->setToolTip(localized("REPLACEREGULAREXPRESSIONTIP"));
+    grid->addWidget(pattern, 3, 1);
+
+    // A pattern's problem shows as it is typed, before any preview.
+    m_patternProblem = new QLabel;
+    m_patternProblem->setObjectName(QStringLiteral("patternProblemLabel"));
+    m_patternProblem->setWordWrap(true);
+    m_patternProblem->setForegroundRole(QPalette::PlaceholderText);
+    grid->addWidget(m_patternProblem, 4, 1);
+    connect(find, &QLineEdit::textChanged, this, &ReplaceRemoveTab::showPatternProblem);
 
     grid->setColumnStretch(1, 1);
-    grid->setRowStretch(3, 1);
+    grid->setRowStretch(5, 1);
     return group;
 }
 
 QGroupBox* ReplaceRemoveTab::makeWhereGroup()
 {
     auto* group = new QGroupBox(localized("REPLACEWHEREGROUP"));
-    QGridLayout* grid = groupGrid(group);
+    QGridLayout* grid = OptionBinder::groupGrid(group);
 
     auto* startLabel = new QLabel(localized("REPLACESTARTFROM"));
     QLineEdit* start
@@ -160,6 +165,17 @@ void ReplaceRemoveTab::refreshFromSettings()
 {
     m_binder->refresh();
     enableChosenInputs();
+    showPatternProblem();
+}
+
+void ReplaceRemoveTab::showPatternProblem()
+{
+    const QString typed = static_cast<QLineEdit*>(m_binder->field(Settings::replaceRemoveThisKey))->text();
+    const std::optional<PatternProblem> problem
+        = m_settings.isReplaceRemoveRegularExpression() ? patternProblem(typed) : std::nullopt;
+    m_patternProblem->setText(
+        problem ? localized("PATTERNPROBLEM").arg(problem->description).arg(problem->column) : QString());
+    m_patternProblem->setVisible(problem.has_value());
 }
 
 void ReplaceRemoveTab::enableChosenInputs()

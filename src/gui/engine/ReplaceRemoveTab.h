@@ -20,7 +20,8 @@ class Settings;
 // The replace/remove tab: a text found in each name is replaced or removed, or each of a
 // set of characters is removed. What the chosen mode does not use is disabled: the
 // replacement outside Replace, the choice of matches with "All occurrences" or when single
-// characters are removed.
+// characters are removed. With "Regular expression" the find text is a pattern, whose problem
+// shows under it as it is typed.
 class ReplaceRemoveTab : public ActionTab {
     Q_OBJECT
 
@@ -37,10 +38,12 @@ private:
     void refreshFromSettings();
     void enableChosenInputs();
     void nameFindField(bool characters);
+    void showPatternProblem();
 
     Settings& m_settings;
     OptionBinder* m_binder;
     QLabel* m_findLabel = nullptr;
+    QLabel* m_patternProblem = nullptr;
     QList<QWidget*> m_replacementInputs;
     QList<QWidget*> m_matchChoiceInputs;
 };

@@ -29,14 +29,6 @@ constexpr int kIncrement = 0;
 constexpr int kDecrement = 1;
 constexpr int kNoDirection = -1;
 
-QGridLayout* groupGrid(QGroupBox* group)
-{
-    auto* grid = new QGridLayout(group);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
-    return grid;
-}
-
 // The chosen direction as the action sees it: decrement wins when both are set.
 int chosenDirection(const Settings& settings)
 {
@@ -80,7 +72,7 @@ void SequenceTab::addChoiceRow(QGridLayout* grid, QButtonGroup* group, const Cho
 QGroupBox* SequenceTab::makeKindGroup()
 {
     auto* group = new QGroupBox(localized("SEQUENCEKINDGROUP"));
-    QGridLayout* grid = groupGrid(group);
+    QGridLayout* grid = OptionBinder::groupGrid(group);
     QButtonGroup* kinds = m_binder->radioGroup(&Settings::chooseNumericOrAlphabetic,
         [](const Settings& settings) { return settings.isAlphaNumericNumeric() ? kNumeric : kAlphabetic; });
     addChoiceRow(grid, kinds,
@@ -98,7 +90,7 @@ QGroupBox* SequenceTab::makeKindGroup()
 QGroupBox* SequenceTab::makeCountingGroup()
 {
     auto* group = new QGroupBox(localized("SEQUENCECOUNTGROUP"));
-    QGridLayout* grid = groupGrid(group);
+    QGridLayout* grid = OptionBinder::groupGrid(group);
     QButtonGroup* directions = m_binder->radioGroup(&Settings::chooseIncrementOrDecrement, chosenDirection);
     addChoiceRow(grid, directions,
         { kIncrement, "sequenceIncrement", "SEQUENCEUP",
@@ -123,7 +115,7 @@ QGroupBox* SequenceTab::makeCountingGroup()
 QGroupBox* SequenceTab::makePlacementGroup()
 {
     auto* group = new QGroupBox(localized("SEQUENCEPLACEGROUP"));
-    QGridLayout* grid = groupGrid(group);
+    QGridLayout* grid = OptionBinder::groupGrid(group);
 
     QCheckBox* prefix = m_binder->checkBox({ Settings::isAlphaNumericPrefixKey, "SEQUENCEPREFIX" });
     prefix->setToolTip(localized("SEQUENCEPREFIXTIP"));

@@ -4,6 +4,7 @@ target_sources(tavrin_gui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/AudioTab.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DateFieldInputs.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DateTimeTab.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/PhotoTab.cpp
   ${CMAKE_CURRENT_LIST_DIR}/GeneralTab.cpp
   ${CMAKE_CURRENT_LIST_DIR}/InsertDeleteTab.cpp
   ${CMAKE_CURRENT_LIST_DIR}/LivePreviewSheet.cpp

@@ -4,6 +4,7 @@
 #include "core/list/StatusTexts.h"
 #include "core/text/LocalizedStrings.h"
 #include "gui/control/ListController.h"
+#include "gui/ui/ThumbnailPreview.h"
 
 #include <QFont>
 #include <iterator>
@@ -90,6 +91,8 @@ QVariant FileTableModel::data(const QModelIndex& index, int role) const
         return index.column() == IconColumn ? QVariant(m_icons.icon(item)) : QVariant();
     case Qt::ToolTipRole:
         return toolTip(item);
+    case ThumbnailPreview::PathRole:
+        return item.fullPath();
     case Qt::FontRole:
         if (index.column() == NewNameColumn && item.hasStatus()) {
             QFont font;

@@ -3,6 +3,7 @@
 #include "core/text/LocalizedStrings.h"
 
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QLocale>
 #include <QMessageBox>
@@ -128,6 +129,11 @@ QString MessageBoxPrompter::choose(QWidget* parent, Choice choice, const Chooser
         return chooseFileToSave(parent, question, ruleFilter(), kRuleExtension);
     case Choice::Folder:
         return QFileDialog::getExistingDirectory(parent, question.title, question.folder);
+    case Choice::RenameFile:
+        return QFileDialog::getOpenFileName(parent, question.title, question.folder, localized("TEXTFILEFILTER"));
+    case Choice::ExportList:
+        return QFileDialog::getSaveFileName(parent, question.title,
+            QDir(question.folder).filePath(QStringLiteral("export.txt")), localized("TEXTFILEFILTER"));
     }
     return {};
 }

@@ -33,9 +33,10 @@ class Prompter {
 public:
     enum class Severity { Information, Warning, Critical };
     // What a chooser picks: an existing log file, a profile to open, a name to save a profile
-    // under (the dialog asks before replacing a file), a folder, a rule file to open, a name
-    // to save a rule file under (asking likewise).
-    enum class Choice { LogFile, OpenProfile, SaveProfile, Folder, OpenRule, SaveRule };
+    // under (the dialog asks before replacing a file), a folder, a rename list to read, a name
+    // to export the list under (asking before replacing too), a rule file to open, a name to
+    // save a rule file under (asking likewise).
+    enum class Choice { LogFile, OpenProfile, SaveProfile, Folder, RenameFile, ExportList, OpenRule, SaveRule };
 
     virtual ~Prompter() = default;
 

@@ -6,4 +6,5 @@ target_sources(tavrin_gui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/Prompter.h
   ${CMAKE_CURRENT_LIST_DIR}/Sheet.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SidewaysScrollArea.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TextFieldFormatter.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/TextFieldFormatter.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ThumbnailPreview.cpp)

@@ -430,7 +430,7 @@ TEST(ActionRegistry, RulesNameTheActionsOfTheirTabs)
     // The rename-from-file tab runs no action, so no rule names it.
     EXPECT_EQ(actionForRule(QString()), nullptr);
     EXPECT_EQ(actionForTab(tabs::FromFile)->bind, nullptr);
-    EXPECT_EQ(actionForTab(tabs::Photo), nullptr);
+    EXPECT_EQ(actionForRule(u"Photo"_s)->resetPerFolderKey, Settings::isPhotoResetSequenceOnEachFolderKey);
 }
 
 }  // namespace

@@ -46,6 +46,14 @@ TEST(Validation, MissingInputsNameTheirAlertAndField)
          "REPLACEREMOVEINVALIDINPUT", "ENTERVALIDVALUE", Settings::replaceRemoveThisKey},
         {"find text given", tabs::ReplaceRemove, [](Settings& s) { s.setReplaceRemoveThis(u"-"_s); }, nullptr,
          nullptr, nullptr},
+        {"invalid pattern", tabs::ReplaceRemove,
+         [](Settings& s) {
+             s.setReplaceRemoveThis(u"IMG_(\\d+"_s);
+             s.setIsReplaceRemoveRegularExpression(true);
+         },
+         "REPLACEREMOVEINVALIDPATTERN", "PATTERNPROBLEM", Settings::replaceRemoveThisKey},
+        {"the same text as plain text", tabs::ReplaceRemove, [](Settings& s) { s.setReplaceRemoveThis(u"IMG_(\\d+"_s); },
+         nullptr, nullptr, nullptr},
         {"photo mask", tabs::Photo, [](Settings&) {}, "PHOTOINVALIDINPUT", "INVALIDPHOTORENAMINGMASK",
          Settings::photoRenamingMaskKey},
         {"audio mask", tabs::Audio, [](Settings& s) { s.setIsID3RenamingSeperator(true); }, "ID3INVALIDINPUT",
@@ -80,6 +88,7 @@ TEST(Validation, MissingInputsNameTheirAlertAndField)
         EXPECT_EQ(failure->titleKey, QLatin1String(row.titleKey));
         EXPECT_EQ(failure->messageKey, QLatin1String(row.messageKey));
         EXPECT_EQ(failure->focusOption, QLatin1String(row.focus));
+        EXPECT_FALSE(failure->message().contains(u'%')) << "every argument is filled in";
     }
 }
 

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
+#include <optional>
 
 using namespace tavrin;
 
@@ -165,6 +166,44 @@ TEST(RenameLogInterimFile, StaysWhenTheFinishedLogCannotBeMade)
         const LogRecoveryReport report = recoverInterruptedLogs(tree.root());
         ASSERT_EQ(report.finished.size(), 1) << int(fault.call);
         EXPECT_EQ(readLogEntries(report.finished[0])->entries, log.entries()) << int(fault.call);
+    }
+}
+
+// When the "#" file cannot take its finished name in place (another file system) or could not
+// be written to the end, the whole document is written again beside it, and the "#" file goes.
+TEST(RenameLogInterimFile, IsReplacedByAWholeDocumentWhenItCannotBeFinishedInPlace)
+{
+    const struct {
+        const char* name;
+        test::Fault fault;
+        bool whileLogging;
+    } rows[] = {
+        {"rename across file systems", {test::Call::RenameNoReplace, 1, EXDEV}, false},
+        {"an entry that could not be written", {test::Call::Write, 1, ENOSPC}, true},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        test::TempTree tree;
+        RenameLog log;
+        ASSERT_TRUE(log.create(tree.root(), QStringLiteral("FILES"), batchStart));
+        QString path;
+        {
+            std::optional<test::InjectedFaults> injected;
+            if (row.whileLogging)
+                injected.emplace(std::vector<test::Fault>{row.fault});
+            for (const char* name : {"a", "b"}) {
+                log.addLogEntry(QStringLiteral("/d/") + QLatin1String(name), QStringLiteral("/d/x") + QLatin1String(name));
+                log.confirmEntry();
+            }
+            injected.reset();
+            if (!row.whileLogging)
+                injected.emplace(std::vector<test::Fault>{row.fault});
+            path = log.finish();
+        }
+        EXPECT_EQ(path, tree.path(QStringLiteral("Log 15-11-2026 09-05-07-2.xml")));
+        EXPECT_EQ(QDir(tree.root()).entryList(QDir::Files), QStringList {lastPathComponent(path)});
+        EXPECT_EQ(readLogEntries(path)->entries, log.entries());
+        EXPECT_TRUE(log.finishError().isEmpty());
     }
 }
 

@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 #include <functional>
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -289,6 +290,30 @@ TEST_F(UndoRenamingTest, OpeningALogChecksItsStampThenItsEntries)
         EXPECT_EQ(checked.check, row.check) << row.what;
         EXPECT_EQ(checked.entries, row.entries) << row.what;
     }
+}
+
+// A log that cannot be rewritten with the entries left stays as it was, every entry in it, so
+// the undo can be tried again; the summary names a few problems and counts the rest.
+TEST_F(UndoRenamingTest, ALogThatCannotBeRewrittenStaysWhole)
+{
+    QList<RenameLogEntry> entries{entry(QStringLiteral("d/back"), QStringLiteral("d/BACK"))};
+    tree.file(QStringLiteral("d/BACK"), "b");
+    for (int i = 0; i < 24; ++i)
+        entries.append(entry(QStringLiteral("d/gone%1").arg(i), QStringLiteral("d/GONE%1").arg(i)));
+    const QString path = log(entries);
+    UndoSummary summary;
+    {
+        test::InjectedFaults failing({{test::Call::Rename, 0, EIO}});
+        summary = undo(path);
+    }
+    EXPECT_EQ(summary.restored, 1);
+    EXPECT_FALSE(summary.logKept || summary.logDeleted);
+    EXPECT_EQ(readLogEntries(path)->entries, entries);
+    EXPECT_EQ(QDir(tree.path(QStringLiteral("logs"))).entryList(QDir::Files).size(), 1) << "no part file is left";
+    const QString text = undoSummaryText(summary);
+    EXPECT_FALSE(text.contains(localized("UNDOLOGKEPT")));
+    EXPECT_TRUE(text.contains(localized("UNDOMOREPROBLEMS").arg(QLocale().toString(summary.problems.size() - 20))))
+        << qPrintable(text);
 }
 
 }  // namespace

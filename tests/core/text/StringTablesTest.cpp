@@ -1,3 +1,4 @@
+#include "core/profiles/Settings.h"
 #include "core/text/LocalizedStrings.h"
 
 #include <QDirIterator>
@@ -25,12 +26,16 @@ const QSet<QString> kNotKeys = {
     QStringLiteral("LIVEPREVIEWFILESLIMIT"),
     QStringLiteral("HIDDENCOLUMNS"),
     QStringLiteral("SORTONARRIVAL"),
+    // The prefix of the option descriptions, whose keys are made from the option keys.
+    QStringLiteral("OPTION_"),
     // The audio tag library's property names and the rule name of the audio action.
     QStringLiteral("ARTIST"),
     QStringLiteral("COMPOSER"),
     QStringLiteral("ID3"),
     // Unicode date patterns the date fields offer.
     QStringLiteral("MMM"), QStringLiteral("MMMM"), QStringLiteral("EEE"), QStringLiteral("EEEE"),
+    // The groups photo metadata tokens are named after.
+    QStringLiteral("EXIF"), QStringLiteral("FILEINFO"), QStringLiteral("IPTC"), QStringLiteral("SEQUENCES"),
 };
 
 // Texts that read the same in a language as in English.
@@ -165,13 +170,21 @@ TEST_F(StringTablesTest, EveryKeyTheCodeUsesHasAnEnglishText)
     EXPECT_TRUE(offenders.isEmpty()) << qPrintable(offenders.join(u'\n'));
 }
 
-// Short keys such as "OK" count too, though the scan for unknown keys leaves them out.
+// Short keys such as "OK" count too, though the scan for unknown keys leaves them out. An
+// option's description is used by the option key it is made from, and every option has one.
 TEST_F(StringTablesTest, EveryEnglishKeyIsUsedByTheCode)
 {
+    const QString describes = QStringLiteral("OPTION_");
+    const QStringList options = Settings::optionKeys();
     QStringList unused;
     for (const QString& key : keySet(kEnglish)) {
-        if (!literalsInSources().contains(key))
+        const bool describesAnOption = key.startsWith(describes) && options.contains(key.mid(describes.size()));
+        if (!literalsInSources().contains(key) && !describesAnOption)
             unused.append(key);
+    }
+    for (const QString& option : options) {
+        if (!keySet(kEnglish).contains(describes + option))
+            unused.append(QStringLiteral("no description of ") + option);
     }
     unused.sort();
     EXPECT_TRUE(unused.isEmpty()) << qPrintable(unused.join(u'\n'));

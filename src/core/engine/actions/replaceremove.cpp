@@ -1,6 +1,7 @@
 #include "core/engine/actions/replaceremove.h"
 
 #include "core/engine/OptionValues.h"
+#include "core/engine/actions/patternreplace.h"
 #include "core/engine/actions/workingname.h"
 #include "core/profiles/Settings.h"
 #include "core/text/LocalizedStrings.h"
@@ -52,8 +53,24 @@ QString replacedFromOccurrence(const QString& body, const ReplaceRemoveOptions& 
         + replaceString(body, in.find, replacement, location, in.occurrenceCount, in.caseSensitive);
 }
 
+// A pattern works on the name as it reads; the direction only says where occurrences are
+// counted from.
+QString changedByPattern(const QString& name, const ReplaceRemoveOptions& in)
+{
+    const int start = in.startFromCharacter;
+    const qsizetype split = start > 1 && start < name.size() ? start - 1 : 0;
+    const QRegularExpression pattern = compiledPattern(in.find, in.caseSensitive);
+    MatchSelection which{in.startOnOccurrence, in.occurrenceCount, in.direction != replaceremovedirection::FromStart};
+    if (in.mode == ReplaceRemoveMode::RemoveCharacters)
+        which = MatchSelection{};
+    const QString replacement = in.mode == ReplaceRemoveMode::Replace ? in.replacement : QString();
+    return name.left(split) + replaceMatches(name.mid(split), pattern, replacement, which);
+}
+
 QString changedName(const QString& name, const ReplaceRemoveOptions& in)
 {
+    if (in.regularExpression)
+        return changedByPattern(name, in);
     const HeadAndBody parts = splitAtStart(name, in);
     const QString body = in.mode == ReplaceRemoveMode::RemoveCharacters
         ? withoutCharacters(parts.body, in)
@@ -102,6 +119,7 @@ ReplaceRemoveOptions ReplaceRemoveOptions::from(const OptionValues& values)
     }
     options.direction = static_cast<replaceremovedirection::ReplaceRemoveDirection>(
         values.integer(Settings::replaceRemovePositionDirectionKey));
+    options.regularExpression = values.boolean(Settings::isReplaceRemoveRegularExpressionKey);
     return options;
 }
 
@@ -109,6 +127,12 @@ bool renameByReplaceRemove(FileSystemItem& item, const ReplaceRemoveOptions& opt
 {
     if (options.mode == ReplaceRemoveMode::None)
         return error.isEmpty();
+    if (options.regularExpression) {
+        if (const std::optional<PatternProblem> problem = patternProblem(options.find)) {
+            error = localized("PATTERNPROBLEM").arg(problem->description).arg(problem->column);
+            return false;
+        }
+    }
     try {
         ReplaceRemoveOptions in = options;
         in.find = storedName(options.find);

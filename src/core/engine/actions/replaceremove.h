@@ -37,6 +37,8 @@ struct ReplaceRemoveOptions {
     int startOnOccurrence = replaceremoveall::StartOnOccurrence;
     int occurrenceCount = replaceremoveall::OccurrenceCount;
     replaceremovedirection::ReplaceRemoveDirection direction = replaceremovedirection::FromStart;
+    // `find` is a regular expression and `replacement` may name its groups.
+    bool regularExpression = false;
 
     static ReplaceRemoveOptions from(const OptionValues& values);
 };
@@ -55,6 +57,10 @@ struct ReplaceRemoveOptions {
 // reverses the result back. The find and replacement texts are never reversed, so from the
 // end a text of two or more characters matches where the name holds it backwards and a
 // longer replacement comes out backwards: rule files written so far depend on this.
+//
+// With `regularExpression`, `find` is a pattern (see patternreplace.h): the name is never
+// reversed, the occurrences are counted from the end of the name for a non-zero direction,
+// and RemoveCharacters deletes every match. A pattern that cannot be used is an error.
 //
 // Answers true when `error` (which the caller empties) is still empty afterwards.
 bool renameByReplaceRemove(FileSystemItem& item, const ReplaceRemoveOptions& options, QString& error);

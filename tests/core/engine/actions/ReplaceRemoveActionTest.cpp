@@ -5,6 +5,7 @@
 
 using namespace tavrin;
 using test::q;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -199,6 +200,51 @@ TEST(FindLocationInString, AnswersTheNthNonOverlappingOccurrence)
         SCOPED_TRACE(testing::Message() << row.text << " " << row.find << " " << row.occurrence);
         EXPECT_EQ(findLocationInString({q(row.text), q(row.find), row.caseSensitive}, row.occurrence), row.expected);
     }
+}
+
+ReplaceRemoveOptions pattern(const char* find, const char* with, ReplaceRemoveOptions options = {})
+{
+    options.regularExpression = true;
+    return replace(find, with, options);
+}
+
+TEST_F(ReplaceRemoveAction, APatternReplacesItsMatchesWithTheirGroups)
+{
+    const ReplaceRemoveOptions characters{.mode = Mode::RemoveCharacters};
+    expect({
+        {"numbered group", "IMG_0042.jpg", pattern("IMG_(\\d+)", "Holiday_$1"), "Holiday_0042.jpg"},
+        {"named group", "2024-05-01 trip", pattern("(?<y>\\d{4})-(?<m>\\d\\d)-\\d\\d", "${m}.${y}"), "05.2024 trip"},
+        {"groups swapped, dollar kept", "John Smith", pattern("(\\w+) (\\w+)", "$2, $1 $$5"), "Smith, John $5"},
+        {"missing group gives nothing", "ab", pattern("(a)|(x)", "[$2]"), "[]b"},
+        {"anchors", "aaa", pattern("^a|a$", "_"), "_a_"},
+        {"an empty match inserts", "name", pattern("^", "new "), "new name"},
+        {"unicode letters", "Émile-Zoë", pattern("\\p{Lu}", "*"), "*mile-*oë"},
+        {"case-insensitive by default", "aAa", pattern("a", "x", occurrences(2, 1)), "axa"},
+        {"case-sensitive", "aAa", pattern("a", "x", {.caseSensitive = true}), "xAx"},
+        {"occurrences from the end", "a1a2a3", pattern("a\\d", "_", occurrences(1, 1, {.direction = fromEnd})),
+         "a1a2_"},
+        {"head kept", "x-x-x", pattern("x", "y", {.startFromCharacter = 2}), "x-y-y"},
+        {"remove mode", "a1b22c", pattern("\\d+", "ignored", {.mode = Mode::Remove}), "abc"},
+        {"remove characters: every match", "a1b22c", pattern("\\d", "", occurrences(2, 1, characters)), "abc"},
+        {"a slash in the replacement is stored as a colon", "a-b", pattern("-", "/"), "a:b"},
+        {"the extension is left alone", "a.b.txt", pattern("\\.", "_"), "a_b.txt"},
+    });
+}
+
+// A pattern that cannot be used is an error, never a crash; one that backtracks without end
+// is cut short by the library's match limit and changes nothing.
+TEST_F(ReplaceRemoveAction, ABadOrRunawayPatternChangesNothing)
+{
+    FileSystemItem bad = item("a(b.txt");
+    QString error;
+    EXPECT_FALSE(renameByReplaceRemove(bad, pattern("a(b", "x"), error));
+    EXPECT_TRUE(error.contains(u"parenthesis"_s)) << qPrintable(error);
+    EXPECT_TRUE(bad.newFilename().isEmpty());
+
+    FileSystemItem runaway = item("aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa!");
+    error.clear();
+    EXPECT_TRUE(renameByReplaceRemove(runaway, pattern("(a+)+$", "x"), error));
+    EXPECT_EQ(runaway.newFilename(), runaway.filenameWithExtension());
 }
 
 }  // namespace

@@ -8,3 +8,6 @@ tavrin_add_test(test_audiotags_action
 tavrin_add_test(test_datetime_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/DateTimeActionTest.cpp LIBS PkgConfig::ICU)
 tavrin_add_test(test_prefixsuffix_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/PrefixSuffixActionTest.cpp LIBS PkgConfig::ICU)
 tavrin_add_test(test_pathcomponents_action SOURCES ${CMAKE_CURRENT_LIST_DIR}/PathComponentsActionTest.cpp)
+tavrin_add_test(test_photo_action
+  SOURCES ${CMAKE_CURRENT_LIST_DIR}/PhotoActionTest.cpp ${PROJECT_SOURCE_DIR}/tests/core/metadata/PhotoFiles.cpp
+  LIBS PkgConfig::EXIV2 Qt6::Gui)
