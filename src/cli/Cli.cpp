@@ -8,10 +8,10 @@
 #include "cli/LogsCommand.h"
 #include "cli/ManPage.h"
 #include "cli/OptionsCommand.h"
-#include "cli/RenameCommand.h"
-#include "cli/Suggestion.h"
 #include "cli/ProfileCommand.h"
+#include "cli/RenameCommand.h"
 #include "cli/RuleCommand.h"
+#include "cli/Suggestion.h"
 #include "cli/UndoCommand.h"
 #include "cli/Usage.h"
 #include "core/profiles/Settings.h"
@@ -34,11 +34,11 @@ const Command kCommands[] = {
     { "apply", "CLIAPPLYSUMMARY", runApplyCommand },
     { "logs", "CLILOGSSUMMARY", runLogsCommand },
     { "undo", "CLIUNDOSUMMARY", runUndoCommand },
+    { "rule", "CLIRULESUMMARY", runRuleCommand },
+    { "profile", "CLIPROFILESUMMARY", runProfileCommand },
     { "options", "CLIOPTIONSSUMMARY", runOptionsCommand },
     { "export", "CLIEXPORTSUMMARY", runExportCommand },
     { "import", "CLIIMPORTSUMMARY", runImportCommand },
-    { "rule", "CLIRULESUMMARY", runRuleCommand },
-    { "profile", "CLIPROFILESUMMARY", runProfileCommand },
 };
 
 QStringList commandNames()
@@ -64,7 +64,12 @@ int printCompletions(const QStringList& arguments, QTextStream& out)
             words << QStringLiteral("--folders") << QStringLiteral("--recursive") << QStringLiteral("--sort");
         if (command == QLatin1String("preview") || command == QLatin1String("apply"))
             words << QStringLiteral("--tab") << QStringLiteral("--set") << QStringLiteral("--yes")
-                  << QStringLiteral("--continue-without-log") << QStringLiteral("--dry-run") << actionFlagNames();
+                  << QStringLiteral("--continue-without-log") << QStringLiteral("--dry-run") << QStringLiteral("--rule")
+                  << QStringLiteral("--profile") << actionFlagNames();
+        if (command == QLatin1String("rule") || command == QLatin1String("profile"))
+            words << QStringLiteral("--tab") << QStringLiteral("--set") << QStringLiteral("--profile");
+        if (command == QLatin1String("profile"))
+            words << QStringLiteral("--yes");
         if (command == QLatin1String("export"))
             words << QStringLiteral("--tab") << QStringLiteral("--set") << QStringLiteral("--columns")
                   << QStringLiteral("--include-location") << QStringLiteral("--no-header") << QStringLiteral("--output");

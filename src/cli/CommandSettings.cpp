@@ -1,8 +1,10 @@
 #include "cli/CommandSettings.h"
 
 #include "cli/Suggestion.h"
+#include "core/engine/ActionRegistry.h"
 #include "core/profiles/ProfileFile.h"
 #include "core/profiles/Settings.h"
+#include "core/profiles/Tabs.h"
 #include "core/rules/RuleFile.h"
 #include "core/text/LocalizedStrings.h"
 
@@ -93,6 +95,10 @@ bool configureSettings(Settings& settings, const CommonOptions& common, const Re
     for (const auto& [key, value] : extra.assignments) {
         if (!assign(settings, key, value, error))
             return false;
+    }
+    if (!actionForTab(settings.selectedTab())) {
+        error = localized("CLITABNOTAVAILABLE").arg(tabName(settings.selectedTab()));
+        return false;
     }
     return true;
 }

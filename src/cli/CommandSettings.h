@@ -31,7 +31,8 @@ bool parseDocumentArguments(const QStringList& arguments, const QStringList& act
 // the list mode of the command line, the tab and every --set in the order given. Without a
 // profile the mode is exactly what the command line says (files, no sub-folders unless
 // asked); a profile keeps its own unless --folders or --recursive ask for more. False with
-// the message when the profile cannot be opened or a value cannot be set.
+// the message when the profile cannot be opened, a key names no option, a value cannot be
+// set, or the tab has no action.
 bool configureSettings(Settings& settings, const CommonOptions& common, const RenameOptions& extra, QString& error);
 
 // The steps of the rule file --rule names, their "rule" without the prefix of early

@@ -40,7 +40,8 @@ QString cliPage()
     page += QStringLiteral(".SH SYNOPSIS\n") + preformatted(localized("CLIMANSYNOPSIS"));
     page += QStringLiteral(".SH DESCRIPTION\n") + roffText(localized("CLIMANDESCRIPTION")) + QLatin1Char('\n');
     const char* commandUsages[] = {"CLILISTUSAGE", "CLIPREVIEWUSAGE", "CLIAPPLYUSAGE", "CLILOGSUSAGE",
-                                   "CLIUNDOUSAGE", "CLIOPTIONSUSAGE", "CLIEXPORTUSAGE", "CLIIMPORTUSAGE"};
+                                   "CLIUNDOUSAGE", "CLIOPTIONSUSAGE", "CLIEXPORTUSAGE", "CLIIMPORTUSAGE",
+                                   "CLIRULEUSAGE", "CLIPROFILEUSAGE"};
     page += QStringLiteral(".SH COMMANDS\n");
     for (const char* usage : commandUsages)
         page += preformatted(localized(usage)) + QStringLiteral(".PP\n");

@@ -4,7 +4,6 @@
 #include "cli/ListJson.h"
 #include "cli/LoadedList.h"
 #include "cli/RenameOptions.h"
-#include "cli/Suggestion.h"
 #include "cli/TerminalProgress.h"
 #include "cli/Usage.h"
 #include "core/engine/Pipeline.h"
@@ -49,14 +48,6 @@ private:
 const char* commandName(Mode mode)
 {
     return mode == Mode::Preview ? "preview" : "apply";
-}
-
-bool tabIsAvailable(const Settings& settings, QString& error)
-{
-    if (actionForTab(settings.selectedTab()))
-        return true;
-    error = localized("CLITABNOTAVAILABLE").arg(tabName(settings.selectedTab()));
-    return false;
 }
 
 QString summaryLine(const FileList& list)
@@ -179,8 +170,6 @@ std::optional<int> previewPaths(const char* command, CommonOptions& common, cons
         rules = openRuleOption(*extra.rule, error);
         if (!rules)
             return reportUsageError(command, error, err);
-    } else if (!tabIsAvailable(settings, error)) {
-        return reportUsageError(command, error, err);
     }
     const int tab = settings.selectedTab();
     if (const auto failure = rules ? std::nullopt : validateAndNormalise(settings, tab)) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/CommandSettings.h"
 #include "cli/LoadedList.h"
 #include "cli/RenameOptions.h"
 #include "core/engine/Pipeline.h"
@@ -25,10 +26,9 @@ struct RunResult {
 };
 
 // The steps preview and apply are made of, shared with the commands built on them.
-// The settings the options ask for; false with `error` set when they are refused.
-bool configureSettings(Settings& settings, const CommonOptions& common, const RenameOptions& extra, QString& error);
-// Those settings, the list of the PATHs and its preview (in apply's order `forApply`); the
-// exit status when the options are refused, nothing when the preview ran.
+// The settings the options ask for (configureSettings), the list of the PATHs and its
+// preview (in apply's order `forApply`) by the tab's action or the steps of --rule; the exit
+// status when the options are refused, nothing when the preview ran.
 std::optional<int> previewPaths(const char* command, CommonOptions& common, const RenameOptions& extra, bool forApply,
                                 Settings& settings, LoadedList& loaded, PreviewOutcome& preview, QTextStream& err);
 // The names as the table shows them, row by row.

@@ -60,12 +60,12 @@ ExtraOptions::Outcome RenameOptions::takeOption(const QString& name, const TakeV
     }
     if (name == QLatin1String("--set"))
         return takeAssignment(takeValue, assignments, error);
-    if (isActionFlag(name))
-        return takeActionFlag(name, takeValue, error);
     if (name == QLatin1String("--rule"))
         return takeFile("--rule", takeValue, rule, error);
     if (name == QLatin1String("--profile"))
         return takeFile("--profile", takeValue, profile, error);
+    if (isActionFlag(name))
+        return takeActionFlag(name, takeValue, error);
     if (name == QLatin1String("--yes") || name == QLatin1String("-y"))
         yes = true;
     else if (name == QLatin1String("--continue-without-log"))
@@ -80,8 +80,8 @@ ExtraOptions::Outcome RenameOptions::takeOption(const QString& name, const TakeV
 QStringList RenameOptions::optionNames() const
 {
     return QStringList{QStringLiteral("--tab"), QStringLiteral("--set"), QStringLiteral("--yes"),
-                       QStringLiteral("--continue-without-log"), QStringLiteral("--dry-run"),
-                       QStringLiteral("--rule"), QStringLiteral("--profile")}
+                       QStringLiteral("--continue-without-log"), QStringLiteral("--dry-run"), QStringLiteral("--rule"),
+                       QStringLiteral("--profile")}
         + actionFlagNames();
 }
 

@@ -43,8 +43,7 @@ int addStep(const DocumentArguments& arguments, QTextStream& out, QTextStream& e
         return reportUsageError(kCommand, error, err);
     const StepOutcome built = getRule(settings);
     if (built.failure) {
-        err << LocalizedStrings::text(built.failure->titleKey) << ": " << LocalizedStrings::text(built.failure->messageKey)
-            << '\n';
+        err << built.failure->title() << ": " << built.failure->message() << '\n';
         return kExitBadUsage;
     }
     if (!addRule(*rules, built))

@@ -12,8 +12,8 @@ using namespace tavrin::test;
 namespace {
 
 const QStringList kPages
-    = { "export.html", "livepreview.html", "main.html", "pasteditems.html", "preferences.html", "rules.html",
-          "undo.html" };
+    = { "export.html", "livepreview.html", "main.html", "pasteditems.html", "preferences.html", "profiles.html",
+          "rules.html", "undo.html" };
 
 QString readAll(const QString& path)
 {

@@ -163,9 +163,12 @@ TEST_F(RulesDrawerTest, EveryCommandWaitsWhileAJobRunsAndComesBackAsItWas)
                 QThread::msleep(5);
         },
         [] {}));
-    for (QWidget* control : drawer()->findChildren<QWidget*>())
-        if (control->objectName() != u"rulesHelpButton"_s && (qobject_cast<QPushButton*>(control) || qobject_cast<QTableView*>(control)))
+    for (QWidget* control : drawer()->findChildren<QWidget*>()) {
+        const bool isCommand = qobject_cast<QPushButton*>(control) || qobject_cast<QTableView*>(control);
+        if (isCommand && control->objectName() != u"rulesHelpButton"_s) {
             EXPECT_FALSE(control->isEnabled()) << qPrintable(control->objectName());
+        }
+    }
     QSignalSpy finished(&list(), &ListController::executingChanged);
     release = true;
     ASSERT_TRUE(finished.wait(kWaitMilliseconds));

@@ -7,6 +7,7 @@ tavrin_add_test(test_gui_controllers GUI SOURCES
 tavrin_add_test(test_gui_window GUI SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/MainWindowTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RenameWindowTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ProfileSheetTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RulesDrawerTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/UndoSheetTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/WindowPolishTest.cpp)

@@ -97,7 +97,6 @@ BoundAction bindPhoto(const OptionValues& values)
     };
 }
 
-
 // The options each kind of rule step stores, in the order rule files list them.
 using S = Settings;
 
@@ -158,7 +157,7 @@ constexpr const char* kPhotoStepKeys[] = {
     S::photoRenamingColonReplaceKey, S::photoRenamingMaskKey, S::photoDatePart1Key, S::photoDateSeperator1Key,
     S::photoDatePart2Key, S::photoDateSeperator2Key, S::photoDatePart3Key, S::photoTimePart1Key,
     S::photoTimeSeperator1Key, S::photoTimePart2Key, S::photoTimeSeperator2Key, S::photoTimePart3Key,
-    S::photoPaddingMaskKey, S::photoExtensionsKey, S::photoMetaDataListKey, stepkeys::Sequence,
+    S::photoPaddingMaskKey, S::photoExtensionsKey, S::photoMetaDataListKey, stepkeys::MetaDataList,
     S::isPhotoResetSequenceOnEachFolderKey};
 constexpr const char* kPathComponentsStepKeys[] = {
     S::pathComponentsLevelNoKey, S::pathComponentsOptionsIndexKey, S::pathComponentsAtPositionNoKey,
@@ -201,8 +200,8 @@ const ActionEntry kActions[] = {
     {tabs::DateTime, "Date & Time", bindDateTime, nullptr, kDateTimeForms},
     {tabs::General, "General", bindGeneral, nullptr, kGeneralForms},
     {tabs::Audio, "ID3", bindID3Tags, nullptr, kID3Forms},
-    {tabs::Photo, "Photo", bindPhoto, Settings::isPhotoResetSequenceOnEachFolderKey, kPhotoForms},
     {tabs::PathComponents, "PathComponents", bindPathComponents, nullptr, kPathComponentsForms},
+    {tabs::Photo, "Photo", bindPhoto, Settings::isPhotoResetSequenceOnEachFolderKey, kPhotoForms},
     {tabs::FromFile, "", nullptr, nullptr},
 };
 

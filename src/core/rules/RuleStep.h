@@ -20,6 +20,8 @@ inline constexpr char Rule[] = "rule";
 inline constexpr char Type[] = "type";
 inline constexpr char IsActive[] = "isActive";
 inline constexpr char Sequence[] = "sequence";
+// The photo fields of a photo step, archived as MetaDataField objects beside their tokens.
+inline constexpr char MetaDataList[] = "MetaDataList";
 }  // namespace stepkeys
 
 QString stepRule(const RuleStep& step);

@@ -1,10 +1,10 @@
 #include "core/rules/StepRecord.h"
 
 #include "core/engine/ActionRegistry.h"
+#include "core/metadata/MetaDataCatalogue.h"
 #include "core/profiles/Settings.h"
 #include "core/profiles/SettingsRecord.h"
 #include "core/profiles/Tabs.h"
-#include "core/text/LocalizedStrings.h"
 #include "core/text/StringUtilities.h"
 
 #include <QMetaProperty>
@@ -42,11 +42,17 @@ const StepForm* chosenForm(const Settings& settings, const ActionEntry& action)
 }
 
 // Booleans and indexes as "%d", texts as typed, the date as records describe it, lists as
-// arrays; the counter of a sequence is the number -1 until a preview runs it.
+// arrays; the counter of a sequence is the number -1 until a preview runs it, and the photo
+// fields are also kept archived, as the other platform's program reads them.
 QVariant stepValue(const Settings& settings, const char* key)
 {
     if (qstrcmp(key, stepkeys::Sequence) == 0)
         return -1;
+    if (qstrcmp(key, stepkeys::MetaDataList) == 0) {
+        MetaDataCatalogue catalogue;
+        catalogue.InitializeMetaDataList();
+        return archiveMetaDataFields(catalogue.fieldsForTags(settings.photoMetaDataList()));
+    }
     const QMetaProperty property = optionProperty(key);
     const QVariant value = property.read(&settings);
     switch (property.metaType().id()) {
@@ -114,7 +120,7 @@ StepOutcome getRule(Settings& settings)
     outcome.failure = validateAndNormalise(settings, tab);
     if (outcome.failure) {
         if (tab == tabs::Audio || tab == tabs::Photo)
-            outcome.error = LocalizedStrings::text(outcome.failure->messageKey);
+            outcome.error = outcome.failure->message();
         return outcome;
     }
     normaliseForStep(settings, tab);

@@ -138,6 +138,7 @@ void MainWindow::connectActions()
     connect(m_actions->saveProfileAs(), &QAction::triggered, m_documents, &DocumentCommands::saveProfileAs);
     connect(
         m_actions->defaultProfile(), &QAction::triggered, m_documents, &DocumentCommands::loadDefaultProfile);
+    connect(m_actions->showProfiles(), &QAction::triggered, m_sheets, &WindowSheets::openProfilesSheet);
     connect(m_actions->preferences(), &QAction::triggered, m_sheets, &WindowSheets::openPreferences);
     connect(m_actions->exportList(), &QAction::triggered, m_sheets, &WindowSheets::openExportSheet);
     connect(m_actions->livePreview(), &QAction::triggered, this, &MainWindow::toggleLivePreview);

@@ -110,6 +110,7 @@ void WindowActions::createSessionActions()
             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S) });
     m_defaultProfile
         = makeAction(w, { "defaultProfileAction", "DEFAULTPROFILE", themeIcon("document-new"), {} });
+    m_showProfiles = makeAction(w, { "showProfilesAction", "SHOWPROFILES", themeIcon("document-properties"), {} });
     m_preferences = makeAction(w,
         { "preferencesAction", "PREFERENCES", themeIcon("preferences-system"),
             QKeySequence(Qt::CTRL | Qt::Key_Comma) });
@@ -138,7 +139,7 @@ void WindowActions::fillMenuBar(QMenuBar* menuBar, const RenameMenuActions& rena
     file->addSeparator();
     file->addAction(m_exportList);
     file->addSeparator();
-    file->addActions({ m_openProfile, m_saveProfile, m_saveProfileAs, m_defaultProfile });
+    file->addActions({ m_openProfile, m_saveProfile, m_saveProfileAs, m_defaultProfile, m_showProfiles });
     file->addSeparator();
     file->addAction(m_preferences);
     file->addSeparator();
@@ -172,7 +173,7 @@ void WindowActions::fillToolBar(QToolBar* toolBar) const
 void WindowActions::setExecuting(bool executing)
 {
     for (QAction* action : { m_addFiles, m_addFolders, m_remove, m_clear, m_undo, m_exportList, m_pasteItems, m_selectAll,
-             m_openProfile, m_defaultProfile })
+             m_openProfile, m_defaultProfile, m_showProfiles })
         action->setEnabled(!executing);
     m_cancel->setEnabled(executing);
 }

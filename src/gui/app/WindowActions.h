@@ -40,6 +40,7 @@ public:
     QAction* saveProfile() const { return m_saveProfile; }
     QAction* saveProfileAs() const { return m_saveProfileAs; }
     QAction* defaultProfile() const { return m_defaultProfile; }
+    QAction* showProfiles() const { return m_showProfiles; }
     QAction* preferences() const { return m_preferences; }
     QAction* livePreview() const { return m_livePreview; }
     QAction* help() const { return m_help; }
@@ -78,6 +79,7 @@ private:
     QAction* m_saveProfile = nullptr;
     QAction* m_saveProfileAs = nullptr;
     QAction* m_defaultProfile = nullptr;
+    QAction* m_showProfiles = nullptr;
     QAction* m_preferences = nullptr;
     QAction* m_livePreview = nullptr;
     QAction* m_help = nullptr;

@@ -9,6 +9,7 @@
 #include "gui/list/PasteboardItemsSheet.h"
 #include "gui/rules/RulesSheet.h"
 #include "gui/log/HelpPage.h"
+#include "gui/profiles/ProfileSheetController.h"
 #include "gui/ui/Prompter.h"
 
 #include <QApplication>
@@ -76,6 +77,15 @@ void WindowSheets::openPasteboardItemsSheet(const QStringList& paths)
             sheet->isIncludeSubFolders() };
         m_controller->list().addPastedItems(sheet->paths(), choice);
     });
+    sheet->open();
+}
+
+void WindowSheets::openProfilesSheet()
+{
+    auto* sheet = new ProfileSheetController(m_controller->session(), m_prompter, m_window);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    connect(sheet, &ProfileSheetController::helpRequested, this,
+        [this] { showHelpPage(QStringLiteral("profiles.html")); });
     sheet->open();
 }
 

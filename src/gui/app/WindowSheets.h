@@ -27,6 +27,8 @@ public:
     void openPreferences();
     // How items from outside that include folders are listed.
     void openPasteboardItemsSheet(const QStringList& paths);
+    // The profiles of the profile folder, to save, open and delete.
+    void openProfilesSheet();
     // The rule files sheet; its preview asks for the chain to be previewed.
     void openRulesSheet();
     // Opens a help page of the current language in the desktop's browser.

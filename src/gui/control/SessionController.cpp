@@ -87,6 +87,17 @@ void SessionController::restoreLastOptions()
     QString error;
     if (!record.isEmpty() && !setSettings(m_settings, record, &error))
         qWarning().noquote() << QStringLiteral("Error in applicationDidFinishLaunching : %1").arg(error);
+    rebuildMasks();
+}
+
+// The masks the window shows are made of the chosen tokens; a mask set on the command line
+// has no tokens behind it and stays as it is.
+void SessionController::rebuildMasks()
+{
+    if (!m_settings.photoMetaDataList().isEmpty())
+        m_settings.resetPhotoMask();
+    if (!m_settings.id3RenamingTagsList().isEmpty())
+        m_settings.resetID3Mask();
 }
 
 // A rule chain that cannot be read back is dropped, so that the next start does not trip
@@ -169,6 +180,8 @@ ProfileOutcome SessionController::setCurrentSettings(const QString& path)
     {
         const ProfileLoading loading(m_isProfileLoading);
         result = loadProfileFile(m_settings, path, &error);
+        if (result == ProfileLoadResult::Loaded)
+            rebuildMasks();
     }
     if (result != ProfileLoadResult::Loaded)
         return failureOutcome({ result, path, error });
@@ -218,6 +231,12 @@ void SessionController::setRulesShown(bool shown)
         return;
     m_rulesShown = shown;
     emit rulesChanged();
+}
+
+void SessionController::closeProfile()
+{
+    setCurrProfileFile(QString());
+    m_userDefaults.remove(QLatin1String(userdefaults::LastProfile));
 }
 
 void SessionController::setCurrProfileFile(const QString& path)

@@ -83,6 +83,8 @@ public:
     ProfileOutcome setCurrentSettings(const QString& path);
     // Writes the options to `path`, which becomes the profile in use.
     bool saveProfile(const QString& path, QString* error = nullptr);
+    // No profile in use any more; the options stay as they are.
+    void closeProfile();
     // Back to the empty profile, with no profile in use (saving the one in use first when
     // the automatic save is on).
     void loadDefaultProfile();
@@ -112,6 +114,7 @@ private:
     void saveProfileInUseWhenAutomatic();
     void restoreRules();
     void restoreLastOptions();
+    void rebuildMasks();
 
     Settings& m_settings;
     const ListController& m_list;

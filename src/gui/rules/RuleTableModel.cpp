@@ -10,14 +10,14 @@ namespace tavrin {
 
 namespace {
 
-// The title of the tab that runs a step's action; a step of an action this version lacks
-// shows the action's name.
+// The title of the tab that runs a step's action; a step of an action this version does not
+// know shows the action's name.
 QString actionTitle(const RuleStep& step)
 {
     static const char* const titles[] = { "SEQUENCETAB", "INSERTDELETETAB", "REPLACEREMOVETAB", "PREFIXSUFFIXTAB",
-        "DATETIMETAB", "GENERALTAB", "AUDIOTAB", nullptr, "PATHCOMPONENTSTAB" };
+        "DATETIMETAB", "GENERALTAB", "AUDIOTAB", "PHOTOTAB", "PATHCOMPONENTSTAB" };
     const ActionEntry* action = actionForRule(stepRule(step));
-    if (!action || action->tab < 0 || action->tab >= int(std::size(titles)) || !titles[action->tab])
+    if (!action || action->tab < 0 || action->tab >= int(std::size(titles)))
         return stepRule(step);
     return localized(titles[action->tab]);
 }

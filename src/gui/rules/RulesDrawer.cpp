@@ -217,8 +217,7 @@ void RulesDrawer::addToRule()
     m_pendingRow = m_model->rowCount();
     const AddToRuleOutcome outcome = m_controller->rules().addToRule();
     if (outcome.built.failure)
-        m_prompter->warn(window(),
-            { outcome.built.failure->title(), outcome.built.failure->message() });
+        m_prompter->warn(window(), { outcome.built.failure->title(), outcome.built.failure->message() });
     if (!outcome.handled)
         m_prompter->warn(window(), { localized("RULESETTINGSFILETITLE"), localized("UNABLETOADDRULE") });
     m_pendingRow.reset();

@@ -69,9 +69,9 @@ TEST(StepRecord, EachTabStoresItsKindWithItsKeysInTheirForms)
         {tabs::Audio, [](Settings& s) { s.setId3RenamingMask(u"<Artist>"_s); }, "ID3", "ID3Tag", 10,
          {{u"id3Extensions"_s, QVariantList{u".MP3"_s, u".M4A"_s, u".AAC"_s, u".M4B"_s}},
           {u"id3RenamingTagsList"_s, QVariantList()}}},
-        {tabs::Photo, [](Settings& s) { s.setPhotoRenamingMask(u"<EXIF_Date>"_s); }, "Photo", "Photo", 23,
-         {{u"photoRenamingMask"_s, u"<EXIF_Date>"_s}, {u"sequence"_s, -1}}},
         {tabs::PathComponents, nullptr, "PathComponents", "Path Components", 14, {{u"pathComponentsLevelNo"_s, u"1"_s}}},
+        {tabs::Photo, [](Settings& s) { s.setPhotoMetaDataList({u"<Model>"_s}); s.resetPhotoMask(); }, "Photo", "Photo", 23,
+         {{u"photoMetaDataList"_s, QVariantList{u"<Model>"_s}}, {u"photoRenamingMask"_s, u"<Model>"_s}}},
     };
     for (const FormRow& row : rows) {
         const RuleStep step = builtStep(row.tab, row.setup);
