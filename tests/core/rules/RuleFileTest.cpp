@@ -79,8 +79,8 @@ TEST(RuleFile, OpensOnlyTheSameMajorVersion)
         const char* application;
         bool match;
     };
-    const Row rows[] = {{"4.0", "4.2.1", true}, {"3.9", "4.2.1", false}, {"2.1", "2.5", true}, {"2.1", "3.0", false},
-                        {"30.0", "3.0.0", false}, {"", "3.0.0", false}};
+    const Row rows[] = {{"4.0", "4.2.1", true}, {"3.9", "4.2.1", false}, {"2.3", "2.0", true}, {"2.3", "2.9", true},
+                        {"2.3", "3.0", false}, {"30.0", "3.0.0", false}, {"", "3.0.0", false}};
     for (const Row& row : rows)
         EXPECT_EQ(isFileVersionMatch(QString::fromLatin1(row.file), QString::fromLatin1(row.application)), row.match)
             << row.file << " in " << row.application;
