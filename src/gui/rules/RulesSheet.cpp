@@ -55,7 +55,7 @@ RulesSheet::RulesSheet(RulesController& rules, SessionController& session, Promp
 
     m_table = new QTableView;
     m_table->setObjectName(QStringLiteral("ruleTableView"));
-    setUpTable(m_table, { m_model });
+    setUpTable(m_table, { m_model, QAbstractItemView::SingleSelection, nullptr });
     m_table->horizontalHeader()->setSectionResizeMode(RuleTableModel::ActiveColumn, QHeaderView::ResizeToContents);
     m_table->horizontalHeader()->setStretchLastSection(true);
     m_outline = new QTreeView;
