@@ -25,17 +25,6 @@ constexpr char kCustomDateDisplayFormat[] = "dd/MM/yyyy hh:mm:ss a";
 // The five options of a date or a time format, in the order they are joined.
 using FormatKeys = std::array<const char*, 5>;
 
-// The options that place a text in a name, as the insert, date and path tabs share them.
-struct PlacementKeys {
-    const char* index;
-    const char* position;
-    const char* direction;
-    const char* beforeText;
-    const char* beforeOccurrence;
-    const char* afterText;
-    const char* afterOccurrence;
-};
-
 // The leaves of one step, added in the order the tab shows its options.
 class Leaves {
 public:
@@ -98,7 +87,7 @@ public:
     {
         static const char* const places[] = {"Insert At Beginning", "Insert At End", "Insert At Position",
                                              "Insert At Before Text", "Insert At After Text"};
-        const int place = std::clamp(integer(keys.index), 0, int(std::size(places)) - 1);
+        const int place = std::clamp(integer(keys.place), 0, int(std::size(places)) - 1);
         if (heading)
             add(heading, localized(places[place]));
         else
