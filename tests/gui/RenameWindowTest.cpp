@@ -196,7 +196,7 @@ TEST_F(RenameWindowTest, TheNumberingTabSaysWhenTheMaskCutsTheNumbers)
 TEST_F(RenameWindowTest, TheWindowKeepsRunningWhileALongPreviewWorks)
 {
     QStringList names;
-    for (int i = 0; i < 4000; ++i)
+    for (int i = 0; i < 12000; ++i)
         names.append(u"file %1.txt"_s.arg(i));
     listFiles(names);
     // A finished preview by other options: its proposals must not survive the cancelled one.
@@ -223,7 +223,7 @@ TEST_F(RenameWindowTest, TheWindowKeepsRunningWhileALongPreviewWorks)
         EXPECT_FALSE(window.renamePanel()->tabs()->isEnabled()) << "no option changes meanwhile";
         EXPECT_TRUE(child<QPushButton>(u"cancelActionButton"_s)->isEnabled());
         EXPECT_EQ(progressLine(), localized("GENERATINGPREVIEWPLEASEWAIT"));
-        EXPECT_EQ(window.tableModel()->rowCount(), 4000) << "the table keeps showing the list";
+        EXPECT_EQ(window.tableModel()->rowCount(), 12000) << "the table keeps showing the list";
         QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
         EXPECT_EQ(window.findChild<UndoSheetController*>(), nullptr) << "no undo while a batch runs";
         return true;
